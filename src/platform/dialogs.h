@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+namespace platform {
+
+/// The answers of a message box.
+enum Answer : qint16 { OK = 1, Cancel = 2, Abort = 3, Retry = 4, Ignore = 5, Yes = 6, No = 7 };
+
+enum class Icon { None, Information, Exclamation, Question, Critical };
+
+enum class Buttons { OKOnly, OKCancel, YesNo, YesNoCancel };
+
+/// What a message box says. An empty title stands for the application's title.
+struct MessageBox
+{
+    QString text;
+    Icon icon = Icon::None;
+    Buttons buttons = Buttons::OKOnly;
+    QString title = {};
+
+    bool operator==(const MessageBox &other) const = default;
+};
+
+/// A complete request for a file: nothing of an earlier dialog is carried over but what the command puts in
+/// here.
+struct OpenFileRequest
+{
+    QString initialDirectory;
+    QString fileName; ///< proposed name, or a pattern such as "*.exe"
+    QString filter;   ///< "Text|*.txt|All|*.*"; without "|" it is both text and pattern
+    QString title;
+    int filterIndex = 1; ///< of the pairs, from 1
+    bool mustExist = false;
+    bool hideReadOnly = false;
+
+    bool operator==(const OpenFileRequest &other) const = default;
+};
+
+/// Boxes that wait for the user. A box closes all open menus first. When the program ends while a box is
+/// open, the box answers as if it had been cancelled.
+class Dialogs
+{
+public:
+    virtual ~Dialogs() = default;
+
+    virtual Answer message(const MessageBox &box) = 0;
+
+    /// The full path of the chosen file; nothing when the dialog was cancelled.
+    virtual std::optional<QString> openFile(const OpenFileRequest &request) = 0;
+};
+
+} // namespace platform

@@ -1,0 +1,85 @@
+#include "platform/file_pattern.h"
+
+#include "platform/letter_case.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace platform {
+
+namespace {
+
+constexpr quint64 Unpackable = 0;
+
+// The extension in upper case as one number; a directory of 100,000 names is matched by comparing these.
+quint64 packed(QStringView extension)
+{
+    if (extension.isEmpty() || extension.size() > 4)
+        return Unpackable;
+    quint64 result = 0;
+    for (QChar unit : extension) {
+        if (unit.unicode() >= 0x80)
+            return Unpackable;
+        result = (result << 16) | upperCase(unit.unicode());
+    }
+    return result;
+}
+
+bool isPlainExtension(const QString &pattern)
+{
+    return pattern.startsWith(QLatin1String("*.")) && packed(QStringView(pattern).mid(2)) != Unpackable
+           && pattern.indexOf(u'*', 1) < 0 && !pattern.contains(u'?') && pattern.indexOf(u'.', 2) < 0;
+}
+
+bool matchesWildcards(QStringView name, QStringView pattern)
+{
+    qsizetype n = 0;
+    qsizetype p = 0;
+    qsizetype star = -1;
+    qsizetype resume = 0;
+    while (n < name.size()) {
+        if (p < pattern.size() && pattern[p] == u'*') {
+            star = p++;
+            resume = n;
+        } else if (p < pattern.size()
+                   && (pattern[p] == u'?'
+                       || upperCase(pattern[p].unicode()) == upperCase(name[n].unicode()))) {
+            ++p;
+            ++n;
+        } else if (star >= 0) {
+            p = star + 1;
+            n = ++resume;
+        } else {
+            return false;
+        }
+    }
+    while (p < pattern.size() && pattern[p] == u'*')
+        ++p;
+    return p == pattern.size();
+}
+
+} // namespace
+
+FilePattern::FilePattern(const QString &patterns)
+{
+    const QStringList list = patterns.split(u';', Qt::SkipEmptyParts);
+    for (const QString &item : list) {
+        const QString pattern = item.trimmed();
+        if (isPlainExtension(pattern))
+            extensions_.push_back(packed(QStringView(pattern).mid(2)));
+        else
+            others_.append(pattern == u"*.*" ? u"*"_s : pattern);
+    }
+}
+
+bool FilePattern::matches(QStringView name, QStringView extension) const
+{
+    const quint64 key = packed(extension);
+    if (key != Unpackable && std::find(extensions_.begin(), extensions_.end(), key) != extensions_.end())
+        return true;
+    return std::any_of(others_.begin(), others_.end(),
+                       [name](const QString &pattern) { return matchesWildcards(name, pattern); });
+}
+
+} // namespace platform

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "platform/directory.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <optional>
+
+namespace platform {
+
+/// Whether a directory that was read before may be served again while it is unchanged, or is read anew.
+enum class Reading { WhenChanged, Anew };
+
+/// What tells one state of a file from another: equal stamps mean that nothing has written the file in
+/// between.
+struct FileStamp
+{
+    quint64 device = 0;
+    quint64 node = 0;
+    qint64 size = 0;
+    qint64 modified = 0; ///< nanoseconds
+    qint64 changed = 0;  ///< nanoseconds
+
+    bool operator==(const FileStamp &other) const = default;
+};
+
+/// Files and directories in the panel's path language. Letter case does not count in any name. A drive text
+/// ("c: [label]") is accepted wherever a path is, also in front of one. Calls raise RuntimeError; opening a
+/// pipe or a device is refused and never waits.
+class FileSystem
+{
+public:
+    virtual ~FileSystem() = default;
+
+    /// The drive texts in letter order: "c: [label]" (fixed), "x: \\server\share" (network), "d:" (no label).
+    virtual QStringList drives() = 0;
+
+    /// The current directory of the current drive; a trailing backslash only at a root. Never raises.
+    virtual QString currentDirectory() = 0;
+
+    /// Makes the drive named by the first character of `drive` the current one. Raises InvalidProcedureCall
+    /// for what is no letter, DeviceUnavailable for an absent drive.
+    virtual void changeDrive(const QString &drive) = 0;
+
+    /// Makes `path` the current directory of its drive; the current drive stays. Raises PathNotFound,
+    /// PermissionDenied, DeviceUnavailable.
+    virtual void changeDirectory(const QString &path) = 0;
+
+    /// What the directory `path` holds, with its true spelling. Raises as changeDirectory does.
+    virtual std::shared_ptr<const Directory> directory(const QString &path, Reading reading) = 0;
+
+    /// Opens the file for reading and closes it at once. 0 when that worked, otherwise the number of the
+    /// error: FileNotFound, PathNotFound, BadFileName, PermissionDenied, PathFileAccess (a directory, a pipe,
+    /// a device). A missing file is an answer here, so this call never raises.
+    virtual qint16 testReading(const QString &path) noexcept = 0;
+
+    /// The first line of the file without its end, at most 64 Ki characters of it; text is UTF-8 where it is
+    /// valid, otherwise code page 1252. Raises what testReading answers, and InputPastEnd for an empty file.
+    virtual QString firstLine(const QString &path) = 0;
+
+    /// The short (8.3) form of the name of an existing file, or the name itself on a system without short
+    /// names.
+    virtual QString shortName(const QString &path) = 0;
+
+    /// The present state of a file; nothing where there is none.
+    virtual std::optional<FileStamp> stamp(const QString &path) = 0;
+};
+
+} // namespace platform

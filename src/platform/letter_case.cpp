@@ -1,0 +1,80 @@
+#include "platform/letter_case.h"
+
+#include <algorithm>
+
+namespace platform {
+
+namespace {
+
+// File systems that ignore case do so for the letters of older Unicode only: later pairs (Georgian, Cherokee)
+// are different names to them.
+bool letterCaseIsYoung(char16_t unit)
+{
+    return (unit >= 0x10A0 && unit <= 0x10FF) || (unit >= 0x13A0 && unit <= 0x13FF)
+           || (unit >= 0x1C80 && unit <= 0x1CBF) || (unit >= 0x2D00 && unit <= 0x2D2F) || unit >= 0xA640;
+}
+
+bool isFullWidthLatin(char16_t unit)
+{
+    return unit >= 0xFF21 && unit <= 0xFF5A;
+}
+
+char16_t mapped(char16_t unit, char32_t (*there)(char32_t), char32_t (*back)(char32_t))
+{
+    if (letterCaseIsYoung(unit) && !isFullWidthLatin(unit))
+        return unit;
+    const char32_t result = there(unit);
+    return result <= 0xFFFF && back(result) == unit ? static_cast<char16_t>(result) : unit;
+}
+
+char32_t toUpper(char32_t unit)
+{
+    return QChar::toUpper(unit);
+}
+
+char32_t toLower(char32_t unit)
+{
+    return QChar::toLower(unit);
+}
+
+QString mappedText(const QString &text, char16_t (*unitCase)(char16_t))
+{
+    QString result(text.size(), Qt::Uninitialized);
+    std::transform(text.begin(), text.end(), result.begin(),
+                   [unitCase](QChar unit) { return QChar(unitCase(unit.unicode())); });
+    return result;
+}
+
+} // namespace
+
+char16_t upperCase(char16_t unit)
+{
+    if (unit < 0x80)
+        return unit >= u'a' && unit <= u'z' ? static_cast<char16_t>(unit - 0x20) : unit;
+    return mapped(unit, toUpper, toLower);
+}
+
+char16_t lowerCase(char16_t unit)
+{
+    if (unit < 0x80)
+        return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 0x20) : unit;
+    return mapped(unit, toLower, toUpper);
+}
+
+QString UCase(const QString &text)
+{
+    return mappedText(text, upperCase);
+}
+
+QString LCase(const QString &text)
+{
+    return mappedText(text, lowerCase);
+}
+
+bool sameIgnoringCase(QStringView a, QStringView b)
+{
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](QChar x, QChar y) { return upperCase(x.unicode()) == upperCase(y.unicode()); });
+}
+
+} // namespace platform

@@ -1,0 +1,80 @@
+#include "platform/linux/console_reports.h"
+
+#include <QList>
+#include <QSocketNotifier>
+
+#include <algorithm>
+#include <array>
+
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+namespace platform::host {
+
+namespace {
+
+QByteArray privateDirectory()
+{
+    const QByteArray runtime = qgetenv("XDG_RUNTIME_DIR");
+    for (const QByteArray &parent : {runtime, QByteArray("/tmp")}) {
+        QByteArray path = parent + "/kinovra-XXXXXX";
+        if (parent.startsWith('/') && ::mkdtemp(path.data()) != nullptr)
+            return path;
+    }
+    return {};
+}
+
+} // namespace
+
+ConsoleReports::ConsoleReports(std::function<void(int, const Ending &)> ended) : ended_(std::move(ended)) {}
+
+ConsoleReports::~ConsoleReports()
+{
+    notifier_.reset();
+    if (!directory_.isEmpty()) {
+        ::unlink((directory_ + "/ended").constData());
+        ::rmdir(directory_.constData());
+    }
+}
+
+QByteArray ConsoleReports::address()
+{
+    return socket_.isValid() || open() ? directory_ + "/ended" : QByteArray();
+}
+
+bool ConsoleReports::open()
+{
+    if (directory_.isEmpty())
+        directory_ = privateDirectory();
+    sockaddr_un name{};
+    name.sun_family = AF_UNIX;
+    const QByteArray path = directory_ + "/ended";
+    if (directory_.isEmpty() || path.size() >= qsizetype(sizeof name.sun_path))
+        return false;
+    std::copy(path.begin(), path.end(), name.sun_path);
+    FileDescriptor socket(::socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+    if (!socket.isValid() || ::bind(socket.get(), reinterpret_cast<sockaddr *>(&name), sizeof name) != 0)
+        return false;
+    socket_ = std::move(socket);
+    notifier_ = std::make_unique<QSocketNotifier>(socket_.get(), QSocketNotifier::Read);
+    QObject::connect(notifier_.get(), &QSocketNotifier::activated, [this] { read(); });
+    return true;
+}
+
+// A report is "number exit code" or "number signal number".
+void ConsoleReports::read()
+{
+    std::array<char, 128> buffer{};
+    const ssize_t size = ::recv(socket_.get(), buffer.data(), buffer.size(), 0);
+    if (size <= 0)
+        return;
+    const QList<QByteArray> words = QByteArray(buffer.data(), size).split(' ');
+    if (words.size() == 3) {
+        const auto kind = words[1] == "signal" ? Ending::Kind::Crashed : Ending::Kind::Exited;
+        ended_(words[0].toInt(), {kind, words[2].toInt()});
+    }
+}
+
+} // namespace platform::host

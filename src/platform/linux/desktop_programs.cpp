@@ -1,0 +1,182 @@
+#include "platform/linux/desktop_programs.h"
+
+#include "platform/letter_case.h"
+
+#include <QtGlobal>
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace platform::host {
+
+namespace {
+
+struct Candidate
+{
+    const char *program;
+    const char *desktop; ///< as XDG_CURRENT_DESKTOP names it, empty for any
+    bool inTerminal = false;
+};
+
+struct Accessory
+{
+    const char *name;
+    const char *kind;
+    std::vector<Candidate> candidates;
+};
+
+const std::vector<Accessory> &accessories()
+{
+    static const std::vector<Accessory> table{
+        {"notepad.exe",
+         "text editor",
+         {{"gnome-text-editor", "GNOME"},
+          {"gedit", "GNOME"},
+          {"kate", "KDE"},
+          {"kwrite", "KDE"},
+          {"mousepad", "XFCE"},
+          {"pluma", "MATE"},
+          {"xed", "X-Cinnamon"},
+          {"featherpad", "LXQt"},
+          {"l3afpad", ""},
+          {"leafpad", ""},
+          {"geany", ""},
+          {"emacs", ""},
+          {"nano", "", true},
+          {"vi", "", true}}},
+        {"calc.exe",
+         "calculator",
+         {{"gnome-calculator", "GNOME"},
+          {"kcalc", "KDE"},
+          {"mate-calc", "MATE"},
+          {"galculator", ""},
+          {"qalculate-gtk", ""},
+          {"qalculate-qt", ""},
+          {"xcalc", ""},
+          {"bc", "", true}}},
+        {"explorer.exe",
+         "file manager",
+         {{"nautilus", "GNOME"},
+          {"dolphin", "KDE"},
+          {"thunar", "XFCE"},
+          {"caja", "MATE"},
+          {"nemo", "X-Cinnamon"},
+          {"pcmanfm-qt", "LXQt"},
+          {"pcmanfm", ""}}},
+        {"mplayer.exe",
+         "media player",
+         {{"totem", "GNOME"},
+          {"dragon", "KDE"},
+          {"parole", "XFCE"},
+          {"vlc", ""},
+          {"mpv", ""},
+          {"celluloid", ""},
+          {"mplayer", ""}}},
+        {"command.com", "terminal", {}},
+    };
+    return table;
+}
+
+constexpr std::array<const char *, 12> Terminals{"xdg-terminal-exec",
+                                                 "x-terminal-emulator",
+                                                 "gnome-terminal",
+                                                 "konsole",
+                                                 "xfce4-terminal",
+                                                 "mate-terminal",
+                                                 "kgx",
+                                                 "qterminal",
+                                                 "alacritty",
+                                                 "kitty",
+                                                 "foot",
+                                                 "xterm"};
+
+const Accessory *find(const QString &name)
+{
+    const auto &table = accessories();
+    const auto found = std::find_if(table.begin(), table.end(), [&name](const Accessory &accessory) {
+        return sameIgnoringCase(name, QString(QLatin1String(accessory.name)));
+    });
+    return found == table.end() ? nullptr : &*found;
+}
+
+bool isExecutableFile(const QByteArray &path)
+{
+    struct stat status
+    {};
+    return ::stat(path.constData(), &status) == 0 && S_ISREG(status.st_mode)
+           && ::access(path.constData(), X_OK) == 0;
+}
+
+std::optional<DesktopProgram> firstInstalled(const std::vector<Candidate> &candidates,
+                                             const QByteArray &desktop)
+{
+    for (const Candidate &candidate : candidates) {
+        if (!desktop.isNull() && !desktop.split(':').contains(candidate.desktop))
+            continue;
+        const QByteArray path = findInPath(candidate.program);
+        if (!path.isEmpty() && (!candidate.inTerminal || !findTerminal().isEmpty()))
+            return DesktopProgram{path, candidate.inTerminal};
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+QByteArray findInPath(const QByteArray &name)
+{
+    const QList<QByteArray> directories = qgetenv("PATH").split(':');
+    for (const QByteArray &directory : directories) {
+        const QByteArray path = directory + '/' + name;
+        if (directory.startsWith('/') && !name.isEmpty() && !name.contains('/') && isExecutableFile(path))
+            return path;
+    }
+    return {};
+}
+
+bool isAccessory(const QString &name)
+{
+    return find(name) != nullptr;
+}
+
+std::optional<DesktopProgram> desktopProgram(const QString &accessory)
+{
+    const Accessory *row = find(accessory);
+    if (row == nullptr)
+        return std::nullopt;
+    if (row->candidates.empty()) {
+        const QByteArray terminal = findTerminal();
+        return terminal.isEmpty() ? std::nullopt : std::optional(DesktopProgram{terminal});
+    }
+    const QByteArray desktop = qgetenv("XDG_CURRENT_DESKTOP");
+    if (!desktop.isEmpty()) {
+        if (const auto own = firstInstalled(row->candidates, desktop))
+            return own;
+    }
+    return firstInstalled(row->candidates, QByteArray());
+}
+
+QString accessoryKind(const QString &accessory)
+{
+    const Accessory *row = find(accessory);
+    return row == nullptr ? u"program"_s : QString(QLatin1String(row->kind));
+}
+
+QByteArray findTerminal()
+{
+    if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+        return {};
+    for (const char *terminal : Terminals) {
+        const QByteArray path = findInPath(terminal);
+        if (!path.isEmpty())
+            return path;
+    }
+    return {};
+}
+
+} // namespace platform::host

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace platform::host {
+
+/// A name as the file system has it, in the panel's path language. Bytes that are no UTF-8, and the
+/// characters that the path language needs for itself (backslash, colon, double quote), become characters of
+/// a private area, so that every name has exactly one form and comes back unchanged.
+QString fromHostName(QByteArrayView name);
+
+/// The file system's bytes of a name, or of any text with such names in it.
+QByteArray toHostName(QStringView name);
+
+} // namespace platform::host

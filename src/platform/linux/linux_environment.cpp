@@ -1,0 +1,108 @@
+#include "platform/linux/linux_environment.h"
+
+#include "platform/linux/host_names.h"
+#include "platform/runtime_error.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+#include <cstdlib>
+
+#include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
+
+namespace platform::host {
+
+namespace {
+
+bool isRegularFile(const QByteArray &hostPath)
+{
+    struct stat status
+    {};
+    return ::stat(hostPath.constData(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
+QByteArray directoryPart(const QByteArray &hostPath)
+{
+    const qsizetype slash = hostPath.lastIndexOf('/');
+    return slash < 0 ? QByteArray(".") : slash == 0 ? QByteArray("/") : hostPath.left(slash);
+}
+
+// The absolute path of a file of the host, whose directory exists; null where it does not.
+QString adoptFile(const QByteArray &hostPath, LinuxFileSystem &files)
+{
+    char *resolved = ::realpath(directoryPart(hostPath).constData(), nullptr);
+    const QByteArray directory(resolved);
+    std::free(resolved); // NOLINT(cppcoreguidelines-no-malloc): realpath's own contract
+    if (directory.isEmpty())
+        return {};
+    return joinPath(files.adopt(directory), fromHostName(hostPath.mid(hostPath.lastIndexOf('/') + 1)));
+}
+
+// A path as the panel writes it, such as data\run1.dg, below a directory that exists.
+QString absolutePanelPath(const QString &argument, LinuxFileSystem &files)
+{
+    const qsizetype backslash = argument.lastIndexOf(u'\\');
+    if (backslash <= 0 || argument.startsWith(u'-') || argument.contains(u':'))
+        return {};
+    try {
+        return joinPath(files.directory(argument.left(backslash), Reading::WhenChanged)->path(),
+                        argument.mid(backslash + 1));
+    } catch (const RuntimeError &) {
+        return {};
+    }
+}
+
+QString panelForm(const QByteArray &argument, LinuxFileSystem &files)
+{
+    if (isRegularFile(argument))
+        return adoptFile(argument, files);
+    const bool isRelativePath =
+        argument.contains('/') && !argument.startsWith('/') && !argument.startsWith('-');
+    if (isRelativePath && !argument.endsWith('/')) {
+        const QString path = adoptFile(argument, files);
+        if (!path.isNull())
+            return path;
+    }
+    const QString text = QString::fromUtf8(argument);
+    const QString path = absolutePanelPath(text, files);
+    return path.isNull() ? text : path;
+}
+
+} // namespace
+
+QString commandLineOf(const QList<QByteArray> &arguments, LinuxFileSystem &files)
+{
+    QStringList texts;
+    for (const QByteArray &argument : arguments) {
+        const QString text = panelForm(argument, files);
+        const bool quoted = text.contains(u' ') || text.contains(u'\t') || text.isEmpty();
+        texts.append(quoted ? u'"' + text + u'"' : text);
+    }
+    return texts.join(u' ');
+}
+
+LinuxEnvironment::LinuxEnvironment(const QList<QByteArray> &arguments, LinuxFileSystem &files)
+    : files_(files), commandLine_(commandLineOf(arguments, files))
+{}
+
+QString LinuxEnvironment::variable(const QString &name)
+{
+    QByteArray value = qgetenv(name.toUtf8().constData());
+    while (value.size() > 1 && (value.endsWith('/') || value.endsWith('\\')))
+        value.chop(1);
+    return value.startsWith('/') ? files_.adopt(value) : QString::fromUtf8(value);
+}
+
+QString LinuxEnvironment::programFolder()
+{
+    return files_.adopt(QFile::encodeName(QCoreApplication::applicationDirPath()));
+}
+
+void LinuxEnvironment::endProgram()
+{
+    QCoreApplication::exit(0);
+}
+
+} // namespace platform::host

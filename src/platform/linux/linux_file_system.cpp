@@ -1,0 +1,253 @@
+#include "platform/linux/linux_file_system.h"
+
+#include "platform/letter_case.h"
+#include "platform/linux/file_descriptor.h"
+#include "platform/linux/host_names.h"
+#include "platform/linux/system_error.h"
+#include "platform/text_decoding.h"
+
+#include <QFile>
+
+#include <array>
+#include <cerrno>
+#include <cstdlib>
+#include <memory>
+#include <new>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace platform::host {
+
+namespace {
+
+constexpr qsizetype LongestLine = 64 * 1024;
+
+QByteArray processDirectory()
+{
+    const std::unique_ptr<char, decltype(&std::free)> path(::getcwd(nullptr, 0), &std::free);
+    // A directory that has been removed, or that lies outside of what the process may see, has no usable
+    // name.
+    return path && path.get()[0] == '/' ? QByteArray(path.get()) : QByteArray("/");
+}
+
+// Refuses what is no regular file before it is opened: opening a pipe would wait, opening a device may act on
+// it.
+void requireRegularFile(const QByteArray &hostPath)
+{
+    struct stat status
+    {};
+    if (::stat(hostPath.constData(), &status) != 0)
+        throw RuntimeError(errno == ENOENT ? ErrorNumber::FileNotFound : errorNumber(errno));
+    if (!S_ISREG(status.st_mode))
+        throw RuntimeError(ErrorNumber::PathFileAccess);
+}
+
+FileDescriptor openForReading(const QByteArray &hostPath)
+{
+    requireRegularFile(hostPath);
+    FileDescriptor descriptor(::open(hostPath.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    if (!descriptor.isValid())
+        throw RuntimeError(errno == ENOENT ? ErrorNumber::FileNotFound : errorNumber(errno));
+    return descriptor;
+}
+
+ErrorNumber missing(const PathLookup::File &file)
+{
+    return file.directoryExists ? ErrorNumber::FileNotFound : ErrorNumber::PathNotFound;
+}
+
+QByteArray readStart(const FileDescriptor &file, qsizetype most)
+{
+    QByteArray result(most, Qt::Uninitialized);
+    qsizetype size = 0;
+    while (size < most) {
+        const ssize_t count = ::read(file.get(), result.data() + size, static_cast<size_t>(most - size));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            raise(errno);
+        if (count == 0)
+            break;
+        size += count;
+    }
+    result.truncate(size);
+    return result;
+}
+
+// Cuts a line that goes on beyond what was read between two characters.
+QByteArrayView withoutHalfCharacter(QByteArrayView bytes)
+{
+    qsizetype end = bytes.size();
+    while (end > 0 && bytes.size() - end < 4 && (static_cast<unsigned char>(bytes[end - 1]) & 0xC0U) == 0x80U)
+        --end;
+    return end > 0 && static_cast<unsigned char>(bytes[end - 1]) >= 0xC0U ? bytes.first(end - 1) : bytes;
+}
+
+} // namespace
+
+LinuxFileSystem::LinuxFileSystem(const QByteArray &winePrefix) : drives_(winePrefix), lookup_(drives_)
+{
+    const QString start = adopt(processDirectory());
+    current_.setDrive(start.at(0));
+    current_.set(start);
+}
+
+QStringList LinuxFileSystem::drives()
+{
+    drives_.refresh();
+    return drives_.texts();
+}
+
+QString LinuxFileSystem::currentDirectory()
+{
+    return current_.current();
+}
+
+void LinuxFileSystem::changeDrive(const QString &drive)
+{
+    const QChar letter = drive.isEmpty() ? QChar() : QChar(upperCase(drive.at(0).unicode()));
+    if (letter < u'A' || letter > u'Z')
+        throw RuntimeError(ErrorNumber::InvalidProcedureCall);
+    if (!drives_.contains(letter))
+        throw RuntimeError(ErrorNumber::DeviceUnavailable);
+    const auto directory = lookup_.find(current_.of(letter));
+    if (!directory)
+        throw RuntimeError(ErrorNumber::PathNotFound);
+    if (::chdir(directory->constData()) != 0)
+        raise(errno);
+    current_.setDrive(letter);
+}
+
+void LinuxFileSystem::changeDirectory(const QString &path)
+{
+    const QString absolute = current_.absolute(path);
+    const auto found = lookup_.find(absolute);
+    if (!found)
+        throw RuntimeError(ErrorNumber::PathNotFound);
+    struct stat status
+    {};
+    if (::stat(found->constData(), &status) != 0)
+        raise(errno);
+    if (!S_ISDIR(status.st_mode))
+        throw RuntimeError(ErrorNumber::PathNotFound);
+    const QChar drive = absolute.at(0);
+    if (drive == current_.drive() ? ::chdir(found->constData()) != 0
+                                  : ::access(found->constData(), X_OK) != 0)
+        raise(errno);
+    lookup_.remember(drive, *found);
+    current_.set(drives_.toPanel(drive, *found));
+}
+
+std::shared_ptr<const Directory> LinuxFileSystem::directory(const QString &path, Reading reading)
+{
+    return lookup_.directory(current_.absolute(path), reading);
+}
+
+qint16 LinuxFileSystem::testReading(const QString &path) noexcept
+{
+    try {
+        const PathLookup::File file = lookup_.findProgram(current_.absolute(path));
+        if (!file.hostPath)
+            return static_cast<qint16>(missing(file));
+        openForReading(*file.hostPath);
+        return 0;
+    } catch (const RuntimeError &error) {
+        return error.Number;
+    } catch (const std::bad_alloc &) {
+        return static_cast<qint16>(ErrorNumber::PathFileAccess);
+    }
+}
+
+QString LinuxFileSystem::firstLine(const QString &path)
+{
+    const QByteArray start = readStart(openForReading(openable(path)), LongestLine);
+    if (start.isEmpty() || start.at(0) == '\x1A')
+        throw RuntimeError(ErrorNumber::InputPastEnd);
+    const qsizetype end = firstLineEnd(start);
+    const QByteArrayView line = QByteArrayView(start).first(end);
+    return decodeText(end == LongestLine ? withoutHalfCharacter(line) : line);
+}
+
+QString LinuxFileSystem::shortName(const QString &path)
+{
+    requireRegularFile(openable(path));
+    return nameOf(current_.absolute(path));
+}
+
+std::optional<FileStamp> LinuxFileSystem::stamp(const QString &path)
+{
+    try {
+        const auto found = lookup_.findFile(current_.absolute(path)).hostPath;
+        struct stat status
+        {};
+        if (!found || ::stat(found->constData(), &status) != 0)
+            return std::nullopt;
+        const auto nanoseconds = [](const timespec &time) {
+            return qint64(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
+        };
+        return FileStamp{status.st_dev, status.st_ino, status.st_size, nanoseconds(status.st_mtim),
+                         nanoseconds(status.st_ctim)};
+    } catch (const RuntimeError &) {
+        return std::nullopt;
+    }
+}
+
+QString LinuxFileSystem::hostForm(const QString &directory)
+{
+    try {
+        return QFile::decodeName(hostDirectory(directory).value_or(QByteArray()));
+    } catch (const RuntimeError &) {
+        return {};
+    }
+}
+
+QString LinuxFileSystem::panelForm(const QString &hostFile)
+{
+    const QByteArray path = QFile::encodeName(hostFile);
+    const qsizetype slash = path.lastIndexOf('/');
+    return joinPath(adopt(path.left(std::max<qsizetype>(slash, 1))), fromHostName(path.mid(slash + 1)));
+}
+
+QString LinuxFileSystem::adopt(const QByteArray &hostDirectory)
+{
+    const QString path = drives_.toPanel(hostDirectory);
+    lookup_.remember(path.at(0), hostDirectory);
+    return path;
+}
+
+std::optional<QByteArray> LinuxFileSystem::hostDirectory(const QString &path)
+{
+    const auto found = lookup_.find(current_.absolute(path));
+    struct stat status
+    {};
+    const bool isDirectory = found && ::stat(found->constData(), &status) == 0 && S_ISDIR(status.st_mode);
+    return isDirectory ? found : std::nullopt;
+}
+
+std::optional<QByteArray> LinuxFileSystem::hostProgram(const QString &path)
+{
+    return lookup_.findProgram(current_.absolute(path)).hostPath;
+}
+
+std::optional<QByteArray> LinuxFileSystem::hostDocument(const QString &path)
+{
+    const QString absolute = current_.absolute(path);
+    if (const auto found = lookup_.findFile(absolute).hostPath)
+        return found;
+    const auto directory = lookup_.find(parentOf(absolute));
+    if (!directory)
+        return std::nullopt;
+    return (*directory == "/" ? QByteArray() : *directory) + '/' + toHostName(nameOf(absolute));
+}
+
+QByteArray LinuxFileSystem::openable(const QString &path)
+{
+    const PathLookup::File file = lookup_.findProgram(current_.absolute(path));
+    if (!file.hostPath)
+        throw RuntimeError(missing(file));
+    return *file.hostPath;
+}
+
+} // namespace platform::host

@@ -1,0 +1,212 @@
+#include "platform/linux/linux_programs.h"
+
+#include "platform/argument_forms.h"
+#include "platform/linux/host_names.h"
+#include "platform/linux/program_file.h"
+#include "platform/runtime_error.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstring>
+
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace platform::host {
+
+namespace {
+
+// What an "open" that fails is worth, by what is missing.
+constexpr double FileNotFound = 2;
+constexpr double AccessDenied = 5;
+constexpr double BadFormat = 11;
+
+// A native program's header does not tell whether it opens windows of its own; these of the package do.
+constexpr std::array<const char *, 8> WindowedPrograms{"grafow",   "grafod", "acrospin", "skelvo",
+                                                       "skelvo98", "ondex2", "forces",   "modlex"};
+
+bool opensWindows(const QByteArray &program)
+{
+    const QByteArray name = program.mid(program.lastIndexOf('/') + 1).toLower();
+    const QByteArray base = name.endsWith(".exe") ? name.chopped(4) : name;
+    return std::any_of(WindowedPrograms.begin(), WindowedPrograms.end(),
+                       [&base](const char *windowed) { return base == windowed; });
+}
+
+bool isBare(const QString &file)
+{
+    return !file.contains(u'\\') && !file.contains(u':');
+}
+
+QByteArray directoryOf(const QByteArray &path)
+{
+    return path.left(std::max<qsizetype>(path.lastIndexOf('/'), 1));
+}
+
+QList<QByteArray> encoded(const QStringList &arguments)
+{
+    QList<QByteArray> result;
+    for (const QString &argument : arguments)
+        result.append(toHostName(argument));
+    return result;
+}
+
+QString decoded(const QByteArray &path)
+{
+    return fromHostName(path);
+}
+
+QString reason(int systemError)
+{
+    switch (systemError) {
+    case EACCES:
+    case EPERM:
+        return u"it may not be executed"_s;
+    case ENOENT:
+        return u"something that it needs to run was not found"_s;
+    case ENOEXEC:
+        return u"it is not a program of this system"_s;
+    default:
+        return QString::fromLocal8Bit(
+            std::strerror(systemError)); // NOLINT(concurrency-mt-unsafe): one thread
+    }
+}
+
+} // namespace
+
+/// What is to be started on the host, or why nothing can be.
+struct LinuxPrograms::Command
+{
+    QList<QByteArray> arguments = {};
+    bool inTerminal = false;
+    QString failure = {};
+    double failureValue = FileNotFound;
+};
+
+LinuxPrograms::LinuxPrograms(LinuxFileSystem &files, const QByteArray &consoleHelper)
+    : files_(files), consoleHelper_(consoleHelper), reports_([this](int number, const Ending &ending) {
+        if (inTerminals_.removeOne(number))
+            tell(number, ending);
+    })
+{}
+
+StartResult LinuxPrograms::start(const Start &start)
+{
+    const auto failed = [&start](double value, const QString &why) {
+        return StartResult{start.verb.isEmpty() ? 0 : value, why};
+    };
+    try {
+        const auto directory = files_.hostDirectory(start.directory);
+        if (!directory)
+            return failed(FileNotFound, u"the directory %1 is gone"_s.arg(start.directory));
+        const Command command = commandFor(start, *directory);
+        if (!command.failure.isEmpty())
+            return failed(command.failureValue, command.failure);
+
+        const double value = ++lastValue_;
+        const QByteArray terminal = command.inTerminal ? findTerminal() : QByteArray();
+        const bool inWindow = !terminal.isEmpty();
+        const int error = starter_.start(inWindow ? inTerminal(command.arguments, value) : command.arguments,
+                                         *directory, [this, value, inWindow](const Ending &ending) {
+                                             // A terminal's own end says nothing about the program in it.
+                                             if (!inWindow)
+                                                 tell(value, ending);
+                                         });
+        if (error != 0)
+            return failed(error == EACCES    ? AccessDenied
+                          : error == ENOEXEC ? BadFormat
+                                             : FileNotFound,
+                          reason(error));
+        if (inWindow)
+            inTerminals_.append(value);
+        return {value, QString()};
+    } catch (const RuntimeError &error) {
+        return failed(FileNotFound, error.Description.toLower());
+    }
+}
+
+LinuxPrograms::Command LinuxPrograms::commandFor(const Start &start, const QByteArray &directory)
+{
+    if (isBare(start.file)) {
+        if (isAccessory(start.file))
+            return accessoryCommand(start);
+        const QByteArray program = findInPath(toHostName(start.file));
+        if (program.isEmpty())
+            return {.failure = u"it was not found"_s};
+        return programCommand(start, directory, program);
+    }
+    const auto program = files_.hostProgram(start.file);
+    if (!program)
+        return {.failure = u"it was not found"_s};
+    return programCommand(start, directory, *program);
+}
+
+LinuxPrograms::Command LinuxPrograms::accessoryCommand(const Start &start)
+{
+    const auto program = desktopProgram(start.file);
+    if (!program)
+        return {.failure = u"this desktop has no %1 installed"_s.arg(accessoryKind(start.file))};
+    return {.arguments = QList<QByteArray>{program->path} + encoded(documentArguments(start)),
+            .inTerminal = program->inTerminal};
+}
+
+LinuxPrograms::Command LinuxPrograms::programCommand(const Start &start, const QByteArray &directory,
+                                                     const QByteArray &program)
+{
+    switch (programKindOf(program)) {
+    case ProgramKind::Native:
+        return {.arguments = encoded(nativeArguments(decoded(program), start)),
+                .inTerminal = !opensWindows(program)};
+    case ProgramKind::WindowsConsole:
+    case ProgramKind::WindowsGui: {
+        const QByteArray wine = findInPath("wine");
+        if (wine.isEmpty())
+            return {.failure = u"it is a Windows program, and Wine is not installed"_s};
+        return {.arguments = encoded(wineArguments(decoded(wine), decoded(program), start)),
+                .inTerminal = programKindOf(program) == ProgramKind::WindowsConsole};
+    }
+    case ProgramKind::Dos: {
+        const QByteArray dosbox = findInPath("dosbox");
+        if (dosbox.isEmpty())
+            return {.failure = u"it is a DOS program, and DOSBox is not installed"_s};
+        return {.arguments = encoded(dosboxArguments(decoded(dosbox), decoded(directoryOf(program)),
+                                                     decoded(program.mid(program.lastIndexOf('/') + 1)),
+                                                     decoded(directory), start))};
+    }
+    case ProgramKind::Unknown:
+        break;
+    }
+    if (::access(program.constData(), R_OK) != 0)
+        return {.failure = u"permission was denied"_s, .failureValue = AccessDenied};
+    return {.failure = u"it is not a program"_s, .failureValue = BadFormat};
+}
+
+// The desktop's own programs tell letter case apart: they get the real path of the document that was found.
+QStringList LinuxPrograms::documentArguments(const Start &start)
+{
+    return start.parameters.arguments([&](const QString &document) {
+        const QString path = isBare(document) ? joinPath(start.directory, document) : document;
+        const auto found = files_.hostDocument(path);
+        return found ? decoded(*found) : document;
+    });
+}
+
+QList<QByteArray> LinuxPrograms::inTerminal(const QList<QByteArray> &command, double value)
+{
+    QStringList arguments;
+    if (!consoleHelper_.isEmpty() && ::access(consoleHelper_.constData(), X_OK) == 0)
+        arguments = {decoded(consoleHelper_), decoded(reports_.address()), QString::number(value)};
+    for (const QByteArray &argument : command)
+        arguments.append(decoded(argument));
+    return encoded(terminalArguments(decoded(findTerminal()), arguments));
+}
+
+void LinuxPrograms::tell(double value, const Ending &ending)
+{
+    if (ended)
+        ended(value, ending);
+}
+
+} // namespace platform::host

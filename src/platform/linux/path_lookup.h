@@ -1,0 +1,63 @@
+#pragma once
+
+#include "platform/file_system.h"
+#include "platform/linux/directory_reader.h"
+#include "platform/linux/drive_map.h"
+
+#include <QByteArray>
+#include <QHash>
+#include <QList>
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+namespace platform::host {
+
+/// Finds files on a host that tells letter case apart, for a panel that does not. All paths are absolute
+/// paths of the path language. Every call raises DeviceUnavailable for an absent drive.
+class PathLookup
+{
+public:
+    explicit PathLookup(DriveMap &drives) : drives_(drives) {}
+
+    /// The host's path of the directory (or whatever else) called `path`: the path as it stands first, then
+    /// the spelling in which the panel has used it, then each name against the folded index of its directory.
+    /// Nothing where there is no such thing.
+    std::optional<QByteArray> find(const QString &path);
+
+    /// The host's path of a file, and where there is none, what is missing.
+    struct File
+    {
+        std::optional<QByteArray> hostPath;
+        bool directoryExists = true;
+    };
+
+    /// The file called `path`. Where the panel has used its directory, the index of that directory alone
+    /// decides, so that a missing file costs one call.
+    File findFile(const QString &path);
+
+    /// The same for a program: one named ".exe" that is not there is looked for without its extension, as a
+    /// regular executable file, so that a native program or a script may take its place.
+    File findProgram(const QString &path);
+
+    /// What the directory `path` holds, kept while the directory is unchanged. Raises PathNotFound,
+    /// PermissionDenied.
+    std::shared_ptr<const Directory> directory(const QString &path, Reading reading);
+
+    /// Remembers the true spelling of a directory that the panel has used, so that its upper-case form is
+    /// found again even below a directory that cannot be listed, and is never mistaken for another one's.
+    void remember(QChar drive, const QByteArray &hostDirectory);
+
+private:
+    void requireDrive(const QString &path) const;
+    std::shared_ptr<const Directory> listing(QChar drive, const QByteArray &hostDirectory, Reading reading);
+    std::optional<QByteArray> findBelow(QChar drive, QByteArray hostDirectory, const QStringList &names);
+
+    DriveMap &drives_;
+    QHash<QString, QByteArray> remembered_; ///< upper-case path of a directory: its path on the host
+    QHash<QString, DirectoryReading> readings_;
+    QStringList recentlyRead_; ///< of readings_, the oldest first
+};
+
+} // namespace platform::host

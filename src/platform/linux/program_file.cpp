@@ -1,0 +1,69 @@
+#include "platform/linux/program_file.h"
+
+#include "platform/linux/file_descriptor.h"
+
+#include <QtEndian>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace platform::host {
+
+namespace {
+
+constexpr size_t HeaderSize = 16 * 1024;
+
+template <typename T>
+T littleEndian(QByteArrayView bytes, qsizetype offset)
+{
+    return offset >= 0 && offset + qsizetype(sizeof(T)) <= bytes.size()
+               ? qFromLittleEndian<T>(bytes.data() + offset)
+               : T(0);
+}
+
+ProgramKind windowsKind(QByteArrayView start, qsizetype header)
+{
+    constexpr qsizetype OptionalHeader = 24;
+    constexpr qsizetype Subsystem = OptionalHeader + 68;
+    constexpr quint16 Console = 3;
+    return littleEndian<quint16>(start, header + Subsystem) == Console ? ProgramKind::WindowsConsole
+                                                                       : ProgramKind::WindowsGui;
+}
+
+} // namespace
+
+ProgramKind programKind(QByteArrayView start)
+{
+    if (start.startsWith("\x7F"
+                         "ELF")
+        || start.startsWith("#!"))
+        return ProgramKind::Native;
+    if (!start.startsWith("MZ"))
+        return ProgramKind::Unknown;
+    constexpr qsizetype NewHeaderOffset = 0x3C;
+    const qsizetype header = littleEndian<quint32>(start, NewHeaderOffset);
+    const QByteArrayView signature =
+        header > 0 && header < start.size() ? start.sliced(header) : QByteArrayView();
+    if (signature.startsWith(QByteArrayView("PE\0\0", 4)))
+        return windowsKind(start, header);
+    // 16-bit Windows programs run through Wine as well.
+    return signature.startsWith("NE") ? ProgramKind::WindowsGui : ProgramKind::Dos;
+}
+
+ProgramKind programKindOf(const QByteArray &hostPath)
+{
+    struct stat status
+    {};
+    if (::stat(hostPath.constData(), &status) != 0 || !S_ISREG(status.st_mode))
+        return ProgramKind::Unknown;
+    const FileDescriptor file(::open(hostPath.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    if (!file.isValid())
+        return ProgramKind::Unknown;
+    QByteArray start(HeaderSize, Qt::Uninitialized);
+    const ssize_t size = ::read(file.get(), start.data(), HeaderSize);
+    start.truncate(size < 0 ? 0 : size);
+    return programKind(start);
+}
+
+} // namespace platform::host

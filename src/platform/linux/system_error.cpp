@@ -1,0 +1,42 @@
+#include "platform/linux/system_error.h"
+
+#include <cerrno>
+
+namespace platform::host {
+
+ErrorNumber errorNumber(int systemError)
+{
+    switch (systemError) {
+    case ENOENT:
+    case ENOTDIR:
+    case ESTALE:
+        return ErrorNumber::PathNotFound;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+        return ErrorNumber::PermissionDenied;
+    case ENAMETOOLONG:
+    case EILSEQ:
+        return ErrorNumber::BadFileName;
+    case EIO:
+        return ErrorNumber::DeviceError;
+    case ENOSPC:
+    case EDQUOT:
+        return ErrorNumber::DiskFull;
+    case ENODEV:
+    case ENXIO:
+    case EHOSTDOWN:
+        return ErrorNumber::DeviceUnavailable;
+    case ENOMEDIUM:
+        return ErrorNumber::DiskNotReady;
+    default:
+        return ErrorNumber::PathFileAccess;
+    }
+}
+
+void raise(int systemError)
+{
+    throw RuntimeError(errorNumber(systemError));
+}
+
+} // namespace platform::host

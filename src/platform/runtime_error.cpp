@@ -1,0 +1,44 @@
+#include "platform/runtime_error.h"
+
+using namespace Qt::StringLiterals;
+
+namespace platform {
+
+QString describe(ErrorNumber number)
+{
+    switch (number) {
+    case ErrorNumber::InvalidProcedureCall:
+        return u"Invalid procedure call"_s;
+    case ErrorNumber::BadFileName:
+        return u"Bad file name or number"_s;
+    case ErrorNumber::FileNotFound:
+        return u"File not found"_s;
+    case ErrorNumber::FileAlreadyOpen:
+        return u"File already open"_s;
+    case ErrorNumber::DeviceError:
+        return u"Device I/O error"_s;
+    case ErrorNumber::DiskFull:
+        return u"Disk full"_s;
+    case ErrorNumber::InputPastEnd:
+        return u"Input past end of file"_s;
+    case ErrorNumber::DeviceUnavailable:
+        return u"Device unavailable"_s;
+    case ErrorNumber::PermissionDenied:
+        return u"Permission denied"_s;
+    case ErrorNumber::DiskNotReady:
+        return u"Disk not ready"_s;
+    case ErrorNumber::PathFileAccess:
+        return u"Path/File access error"_s;
+    case ErrorNumber::PathNotFound:
+        return u"Path not found"_s;
+    case ErrorNumber::Cancelled:
+        return u"Cancel was selected"_s;
+    }
+    return u"Unknown error"_s;
+}
+
+RuntimeError::RuntimeError(ErrorNumber number, const QString &description)
+    : Number(static_cast<qint16>(number)), Description(description), text_(description.toUtf8())
+{}
+
+} // namespace platform

@@ -1,0 +1,119 @@
+#include "platform/directory.h"
+#include "printing.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+using platform::Directory;
+using Kind = platform::Directory::Kind;
+
+namespace {
+
+std::shared_ptr<Directory> holding(const QStringList &files)
+{
+    auto directory = Directory::create(u"C:\\DATA"_s);
+    for (const QString &file : files)
+        directory->add(file, Kind::File, false);
+    return directory;
+}
+
+} // namespace
+
+TEST(FileNames, match_any_pattern_in_any_case)
+{
+    const auto directory =
+        holding({u"walk.PLT"_s, u"a.hpg"_s, u"b.hpgl"_s, u"c.dg"_s, u"plt"_s, u"d.plt.bak"_s});
+    EXPECT_EQ(directory->files(u"*.plt;*.hpg;*.pgl;*.hpgl;*.acd"_s).toList(),
+              (QStringList{u"a.hpg"_s, u"b.hpgl"_s, u"walk.PLT"_s}));
+}
+
+TEST(FileNames, match_the_last_extension)
+{
+    const auto directory = holding({u"walk.left.dg"_s, u"walk.dg.left"_s, u".dg"_s});
+    EXPECT_EQ(directory->files(u"*.dg"_s).toList(), (QStringList{u".dg"_s, u"walk.left.dg"_s}));
+}
+
+TEST(FileNames, know_wildcards_beyond_extensions)
+{
+    const auto directory = holding({u"walk1.dg"_s, u"walk12.dg"_s, u"run1.dg"_s, u"readme"_s, u"x.extra"_s});
+    EXPECT_EQ(directory->files(u"walk?.*"_s).toList(), QStringList{u"walk1.dg"_s});
+    EXPECT_EQ(directory->files(u"*.*"_s).count(), 5);
+    EXPECT_EQ(directory->files(u"*1*"_s).count(), 3);
+    EXPECT_EQ(directory->files(u"*.extra"_s).toList(), QStringList{u"x.extra"_s});
+    EXPECT_EQ(directory->files(u""_s).count(), 0);
+}
+
+TEST(FileNames, stand_in_alphabetical_order_without_regard_to_case)
+{
+    const auto directory = holding({u"walk10.dg"_s, u"b.dg"_s, u"A.dg"_s, u"WALK1.DG"_s, u"a.DG"_s, u"C.dg"_s,
+                                    u"walk2.dg"_s, u"averylongname2.dg"_s, u"AVERYLONGNAME1.dg"_s});
+    EXPECT_EQ(directory->files(u"*.dg"_s).toList(),
+              (QStringList{u"A.dg"_s, u"a.DG"_s, u"AVERYLONGNAME1.dg"_s, u"averylongname2.dg"_s, u"b.dg"_s,
+                           u"C.dg"_s, u"WALK1.DG"_s, u"walk10.dg"_s, u"walk2.dg"_s}));
+}
+
+TEST(FileNames, leave_out_folders_hidden_files_and_devices)
+{
+    auto directory = holding({u"a.dg"_s});
+    directory->add(u"folder.dg", Kind::Folder, false);
+    directory->add(u"hidden.dg", Kind::File, true);
+    directory->add(u"pipe.dg", Kind::Other, false);
+    EXPECT_EQ(directory->files(u"*.dg"_s).toList(), QStringList{u"a.dg"_s});
+}
+
+TEST(FileNames, find_the_row_of_a_name)
+{
+    const auto names = holding({u"b.dg"_s, u"a.dg"_s, u"A.dg"_s})->files(u"*.dg"_s);
+    EXPECT_EQ(names.indexOf(u"A.dg"_s), 0);
+    EXPECT_EQ(names.indexOf(u"a.dg"_s), 1);
+    EXPECT_EQ(names.indexOf(u"b.dg"_s), 2);
+    EXPECT_EQ(names.indexOf(u"B.dg"_s), -1);
+    EXPECT_EQ(names.indexOf(u"z.dg"_s), -1);
+    EXPECT_EQ(platform::FileNames().indexOf(u"a.dg"_s), -1);
+}
+
+TEST(Folders, are_listed_without_the_hidden_ones)
+{
+    auto directory = holding({u"file"_s});
+    directory->add(u"sub2", Kind::Folder, false);
+    directory->add(u"Sub1", Kind::Folder, false);
+    directory->add(u".git", Kind::Folder, true);
+    EXPECT_EQ(directory->folders().toList(), (QStringList{u"Sub1"_s, u"sub2"_s}));
+}
+
+TEST(DirectoryLookup, ignores_case_and_gives_the_true_spelling)
+{
+    const auto directory = holding({u"Walk1.Dg"_s, u"übung.DG"_s, u"straße.dg"_s});
+    EXPECT_EQ(directory->find(u"WALK1.DG"_s), u"Walk1.Dg"_s);
+    EXPECT_EQ(directory->find(u"ÜBUNG.DG"_s), u"übung.DG"_s);
+    EXPECT_EQ(directory->find(u"STRAßE.DG"_s), u"straße.dg"_s);
+    EXPECT_TRUE(directory->find(u"WALK2.DG"_s).isNull());
+    EXPECT_TRUE(holding({})->find(u"WALK1.DG"_s).isNull());
+}
+
+TEST(DirectoryLookup, prefers_the_exact_name_then_the_first_in_order)
+{
+    const auto directory = holding({u"walk.dg"_s, u"Walk.dg"_s, u"WALK.dg"_s});
+    EXPECT_EQ(directory->find(u"Walk.dg"_s), u"Walk.dg"_s);
+    EXPECT_EQ(directory->find(u"walk.dg"_s), u"walk.dg"_s);
+    EXPECT_EQ(directory->find(u"WALK.DG"_s), u"WALK.dg"_s);
+}
+
+TEST(DirectoryLookup, finds_hidden_names)
+{
+    auto directory = holding({});
+    directory->add(u".cfb", Kind::File, true);
+    EXPECT_EQ(directory->find(u".CFB"_s), u".cfb"_s);
+}
+
+TEST(DirectoryLookup, finds_every_name_of_a_large_directory)
+{
+    QStringList names;
+    for (int i = 0; i < 5000; ++i)
+        names.append(u"trial%1.dg"_s.arg(i));
+    const auto directory = holding(names);
+    for (int i = 0; i < 5000; ++i)
+        ASSERT_EQ(directory->find(u"TRIAL%1.DG"_s.arg(i)), names.at(i));
+    EXPECT_TRUE(directory->find(u"TRIAL5000.DG"_s).isNull());
+}

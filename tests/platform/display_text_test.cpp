@@ -1,0 +1,30 @@
+#include "platform/display_text.h"
+#include "printing.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using platform::displayText;
+
+TEST(DisplayText, is_the_text_itself_as_a_rule)
+{
+    EXPECT_EQ(displayText(u"C:\\Läufer 🏃 & Co.dg"_s), u"C:\\Läufer 🏃 & Co.dg"_s);
+    EXPECT_EQ(displayText(u"תרגיל.dg"_s), u"תרגיל.dg"_s);
+}
+
+TEST(DisplayText, shows_control_characters_as_pictures)
+{
+    EXPECT_EQ(displayText(u"a\nb\t\u001B[31m\u007F"_s), u"a\u240Ab\u2409\u241B[31m\u2421"_s);
+    EXPECT_EQ(displayText(u"a\u0085b\u2028"_s), u"a\uFFFDb\uFFFD"_s);
+}
+
+TEST(DisplayText, does_not_let_a_name_turn_the_reading_direction)
+{
+    EXPECT_EQ(displayText(u"walk\u202Egd.exe"_s), u"walk\uFFFDgd.exe"_s);
+    EXPECT_EQ(displayText(u"\u200Fa\u2066b"_s), u"\uFFFDa\uFFFDb"_s);
+}
+
+TEST(DisplayText, shows_what_private_characters_stand_for)
+{
+    EXPECT_EQ(displayText(u"a\uF03Ab\uF05Cc\uF022d\uF0E9"_s), u"a:b\\c\"d\uFFFD"_s);
+}

@@ -1,0 +1,236 @@
+// What the host's file system does beyond what every file system does.
+
+#include "platform/linux/linux_file_system.h"
+#include "platform/runtime_error.h"
+#include "printing.h"
+#include "scratch_directory.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using platform::Reading;
+using platform::host::LinuxFileSystem;
+
+class LinuxFiles : public testing::Test
+{
+protected:
+    QString at(const QString &name) const { return base + u'\\' + name; }
+    QString upper(const QString &name) const { return at(name).toUpper(); }
+
+    support::KeptDirectory kept;
+    support::ScratchDirectory scratch{"Anna's data"};
+    LinuxFileSystem files{QByteArray()};
+    QString base = files.adopt(scratch.path());
+};
+
+TEST_F(LinuxFiles, refuse_pipes_devices_and_links_to_nowhere_without_waiting)
+{
+    scratch.makePipe("pipe.dg");
+    scratch.makeLink("device.dg", "/dev/zero");
+    scratch.makeLink("terminal.dg", "/dev/tty");
+    scratch.makeLink("dangling.dg", "/gone/away");
+    scratch.makeLink("loop.dg", "loop.dg");
+    scratch.makeLink("file.dg", "target");
+    scratch.makeFile("target");
+    EXPECT_EQ(files.testReading(at(u"pipe.dg"_s)), 75);
+    EXPECT_EQ(files.testReading(at(u"device.dg"_s)), 75);
+    EXPECT_EQ(files.testReading(at(u"terminal.dg"_s)), 75);
+    EXPECT_EQ(files.testReading(at(u"dangling.dg"_s)), 53);
+    EXPECT_EQ(files.testReading(at(u"loop.dg"_s)), 75);
+    EXPECT_EQ(files.testReading(at(u"file.dg"_s)), 0);
+    EXPECT_THROW(files.firstLine(at(u"pipe.dg"_s)), platform::RuntimeError);
+    EXPECT_EQ(files.directory(base, Reading::Anew)->files(u"*.dg"_s).toList(), QStringList{u"file.dg"_s});
+}
+
+TEST_F(LinuxFiles, know_permissions)
+{
+    scratch.makeFile("secret.dg");
+    scratch.makeDirectory("closed/below");
+    scratch.makeFile("closed/below/run1.dg");
+    ::chmod(scratch.path("secret.dg").constData(), 0);
+    ::chmod(scratch.path("closed").constData(), 0);
+    {
+        const support::WithoutPrivileges nobody;
+        EXPECT_EQ(files.testReading(at(u"secret.dg"_s)), 70);
+        EXPECT_EQ(files.testReading(upper(u"secret.dg"_s)), 70);
+        try {
+            files.directory(at(u"closed"_s), Reading::Anew);
+            ADD_FAILURE() << "a closed directory was read";
+        } catch (const platform::RuntimeError &error) {
+            EXPECT_EQ(error.Number, 70);
+        }
+        try {
+            files.changeDirectory(at(u"closed"_s));
+            ADD_FAILURE() << "a closed directory was entered";
+        } catch (const platform::RuntimeError &error) {
+            EXPECT_EQ(error.Number, 70);
+        }
+    }
+    ::chmod(scratch.path("closed").constData(), 0755);
+}
+
+TEST_F(LinuxFiles, find_a_used_directory_again_below_one_that_cannot_be_listed)
+{
+    scratch.makeDirectory("Home/anna");
+    scratch.makeFile("Home/anna/walk1.dg");
+    ::chmod(scratch.path("Home").constData(), 0711);
+    {
+        const support::WithoutPrivileges nobody;
+        EXPECT_EQ(files.testReading(upper(u"Home\\anna\\walk1.dg"_s)), 76);
+        files.directory(at(u"Home\\anna"_s), Reading::WhenChanged);
+        EXPECT_EQ(files.testReading(upper(u"Home\\anna\\walk1.dg"_s)), 0);
+        EXPECT_EQ(files.testReading(upper(u"Home\\anna\\walk2.dg"_s)), 53);
+    }
+    ::chmod(scratch.path("Home").constData(), 0755);
+}
+
+TEST_F(LinuxFiles, tell_apart_directories_that_differ_in_case_alone)
+{
+    scratch.makeDirectory("Anna");
+    scratch.makeDirectory("anna");
+    scratch.makeFile("Anna/upper.dg");
+    scratch.makeFile("anna/lower.dg");
+    files.directory(at(u"anna"_s), Reading::WhenChanged);
+    EXPECT_EQ(files.testReading(upper(u"anna\\lower.dg"_s)), 0);
+    EXPECT_EQ(files.testReading(upper(u"anna\\upper.dg"_s)), 53);
+    files.directory(at(u"Anna"_s), Reading::WhenChanged);
+    EXPECT_EQ(files.directory(at(u"Anna"_s), Reading::WhenChanged)->path(), at(u"Anna"_s));
+    EXPECT_EQ(files.testReading(upper(u"anna\\upper.dg"_s)), 0);
+    EXPECT_EQ(files.testReading(upper(u"anna\\lower.dg"_s)), 53);
+}
+
+TEST_F(LinuxFiles, prefer_the_exact_name_of_names_that_differ_in_case_alone)
+{
+    scratch.makeFile("walk1.dg", "lower\n");
+    scratch.makeFile("Walk1.dg", "capital\n");
+    EXPECT_EQ(files.firstLine(at(u"walk1.dg"_s)), u"lower"_s);
+    EXPECT_EQ(files.firstLine(at(u"Walk1.dg"_s)), u"capital"_s);
+    EXPECT_EQ(files.firstLine(at(u"WALK1.DG"_s)), u"capital"_s);
+}
+
+TEST_F(LinuxFiles, find_names_that_the_path_language_cannot_spell)
+{
+    for (const QByteArray &name :
+         {QByteArray("a:b.dg"), QByteArray("c\\d.dg"), QByteArray("say \"hi\".dg"), QByteArray("caf\xE9.dg"),
+          QByteArray("new\nline.dg"), QByteArray("-rf & $(x) %y ^z;.dg"), QByteArray(" blank .dg")}) {
+        scratch.makeFile(name, "title of " + name.toHex() + '\n');
+    }
+    const auto names = files.directory(base, Reading::Anew)->files(u"*.dg"_s);
+    ASSERT_EQ(names.count(), 7);
+    for (int row = 0; row < names.count(); ++row) {
+        EXPECT_EQ(files.testReading(upper(names.at(row))), 0) << names.at(row).toStdString();
+        EXPECT_TRUE(files.firstLine(at(names.at(row))).startsWith(u"title of"_s));
+    }
+}
+
+TEST_F(LinuxFiles, find_names_of_the_longest_length)
+{
+    const QByteArray longest(252, 'n');
+    scratch.makeFile(longest + ".dg");
+    EXPECT_EQ(files.testReading(upper(QString::fromLatin1(longest) + u".dg"_s)), 0);
+    EXPECT_EQ(files.testReading(at(QString(300, u'n'))), 53);
+}
+
+TEST_F(LinuxFiles, take_a_native_program_for_a_missing_exe)
+{
+    scratch.makeExecutable("kinemati", "#!/bin/true\n");
+    scratch.makeFile("noise");
+    scratch.makeExecutable("fourier", "#!/bin/true\n");
+    scratch.makeFile("Fourier.EXE", "MZ");
+    scratch.makeDirectory("energy");
+    EXPECT_EQ(files.testReading(upper(u"kinemati.exe"_s)), 0);
+    EXPECT_EQ(files.hostProgram(upper(u"kinemati.exe"_s)), scratch.path("kinemati"));
+    EXPECT_EQ(files.testReading(upper(u"noise.exe"_s)), 53);
+    EXPECT_EQ(files.hostProgram(upper(u"fourier.exe"_s)), scratch.path("Fourier.EXE"));
+    EXPECT_EQ(files.testReading(upper(u"energy.exe"_s)), 53);
+    EXPECT_EQ(files.testReading(upper(u"kinemati.out"_s)), 53);
+}
+
+TEST_F(LinuxFiles, give_documents_their_true_path)
+{
+    scratch.makeFile("WALK1.DG");
+    EXPECT_EQ(files.hostDocument(at(u"walk1.dg"_s)), scratch.path("WALK1.DG"));
+    EXPECT_EQ(files.hostDocument(at(u"new model.cfb"_s)), scratch.path("new model.cfb"));
+    EXPECT_FALSE(files.hostDocument(at(u"nowhere\\x.cfb"_s)).has_value());
+    EXPECT_EQ(files.hostDocument(u"Z:\\no such file.x"_s), QByteArray("/no such file.x"));
+}
+
+TEST_F(LinuxFiles, take_the_process_along)
+{
+    scratch.makeDirectory("sub");
+    files.changeDrive(base);
+    files.changeDirectory(at(u"SUB"_s));
+    EXPECT_EQ(std::filesystem::current_path().string(), scratch.path("sub").toStdString());
+}
+
+TEST_F(LinuxFiles, begin_at_the_root_where_the_start_directory_is_gone)
+{
+    scratch.makeDirectory("doomed");
+    ASSERT_EQ(::chdir(scratch.path("doomed").constData()), 0);
+    scratch.remove("doomed");
+    LinuxFileSystem others{QByteArray()};
+    EXPECT_EQ(others.currentDirectory(), u"Z:\\"_s);
+}
+
+TEST_F(LinuxFiles, keep_a_current_directory_for_each_drive)
+{
+    scratch.makeDirectory("prefix/dosdevices");
+    scratch.makeDirectory("prefix/drive_c/data");
+    scratch.makeLink("prefix/dosdevices/c:", "../drive_c");
+    LinuxFileSystem wine(scratch.path("prefix"));
+    EXPECT_EQ(wine.drives(), (QStringList{u"c:"_s, u"z:"_s}));
+    wine.changeDrive(u"z:"_s);
+    wine.changeDirectory(u"C:\\DATA"_s);
+    EXPECT_EQ(wine.currentDirectory().left(2), u"Z:"_s);
+    wine.changeDrive(u"c:"_s);
+    EXPECT_EQ(wine.currentDirectory(), u"C:\\data"_s);
+    EXPECT_EQ(std::filesystem::current_path().string(), scratch.path("prefix/drive_c/data").toStdString());
+    EXPECT_EQ(wine.adopt(scratch.path("prefix/drive_c/data")), u"C:\\data"_s);
+}
+
+TEST_F(LinuxFiles, read_titles_of_any_kind)
+{
+    scratch.makeFile("bom.dg", "\xEF\xBB\xBF"
+                               "Title\n");
+    scratch.makeFile("cp1252.dg", "L\xE4ufer \x96 \x80 5\n");
+    scratch.makeFile("dos.dg", "Title\x1Aold garbage\n");
+    scratch.makeFile("ended.dg", "\x1A");
+    scratch.makeFile("huge.dg", QByteArray(10 * 1024 * 1024, 'x'));
+    scratch.makeFile("wide.dg", QByteArray("x") + QByteArray("\xC3\xA4").repeated(100'000));
+    scratch.makeFile("binary.dg", QByteArray("\x00\x01\x02\xFF\x1B[31m\n", 10));
+    EXPECT_EQ(files.firstLine(at(u"bom.dg"_s)), u"Title"_s);
+    EXPECT_EQ(files.firstLine(at(u"cp1252.dg"_s)), u"Läufer – € 5"_s);
+    EXPECT_EQ(files.firstLine(at(u"dos.dg"_s)), u"Title"_s);
+    EXPECT_THROW(files.firstLine(at(u"ended.dg"_s)), platform::RuntimeError);
+    EXPECT_EQ(files.firstLine(at(u"huge.dg"_s)).size(), 65536);
+    EXPECT_EQ(files.firstLine(at(u"wide.dg"_s)), u'x' + QString(32767, u'ä'));
+    EXPECT_EQ(files.firstLine(at(u"binary.dg"_s)).size(), 9);
+}
+
+TEST_F(LinuxFiles, see_changes_within_one_tick_of_the_clock)
+{
+    for (int i = 0; i < 200; ++i) {
+        const QByteArray name = "trial" + QByteArray::number(i) + ".km";
+        ASSERT_EQ(files.testReading(upper(QString::fromLatin1(name))), 53) << i;
+        scratch.makeFile(name);
+        ASSERT_EQ(files.testReading(upper(QString::fromLatin1(name))), 0) << i;
+    }
+}
+
+TEST_F(LinuxFiles, survive_a_directory_that_vanishes_and_comes_back)
+{
+    scratch.makeDirectory("data");
+    scratch.makeFile("data/run1.dg");
+    files.directory(at(u"data"_s), Reading::WhenChanged);
+    scratch.remove("data");
+    EXPECT_EQ(files.testReading(upper(u"data\\run1.dg"_s)), 76);
+    EXPECT_THROW(files.directory(at(u"data"_s), Reading::Anew), platform::RuntimeError);
+    scratch.makeDirectory("Data");
+    scratch.makeFile("Data/run1.dg");
+    EXPECT_EQ(files.testReading(upper(u"data\\run1.dg"_s)), 0);
+}

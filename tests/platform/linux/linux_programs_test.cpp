@@ -1,0 +1,435 @@
+// Real processes: an echo program records what it was given.
+
+#include "platform/linux/linux_programs.h"
+#include "platform/path_language.h"
+#include "printing.h"
+#include "recording_platform.h"
+#include "scratch_directory.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QEventLoop>
+#include <QTimer>
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <optional>
+#include <random>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using platform::CommandText;
+using platform::Ending;
+using platform::Start;
+using platform::StartResult;
+using platform::host::LinuxFileSystem;
+using platform::host::LinuxPrograms;
+using testing::ElementsAre;
+
+namespace {
+
+constexpr const char *EchoProgram = KINOVRA_ECHO_PROGRAM;
+constexpr const char *ConsoleHelper = KINOVRA_CONSOLE_HELPER;
+
+struct Ended
+{
+    double value;
+    Ending ending;
+};
+
+} // namespace
+
+class LinuxStarts : public testing::Test
+{
+protected:
+    LinuxStarts()
+    {
+        scratch.makeDirectory("Program Files");
+        scratch.makeDirectory("bin");
+        install("Program Files/Kinemati.exe");
+        programs.ended = [this](double value, const Ending &ending) { ends.push_back({value, ending}); };
+    }
+
+    void install(const QByteArray &name) const
+    {
+        std::filesystem::copy_file(EchoProgram, scratch.path(name).toStdString());
+    }
+
+    QString at(const QString &name) const { return base + u'\\' + name; }
+
+    Start open(const QString &file, const CommandText &parameters) const
+    {
+        return {.verb = u"open"_s, .file = file, .parameters = parameters, .directory = base};
+    }
+
+    /// Starts and waits for the end; the record of the echo program.
+    QList<QByteArray> run(const Start &start)
+    {
+        result = programs.start(start);
+        EXPECT_EQ(result.failure, QString());
+        waitForEnd();
+        return record();
+    }
+
+    void waitForEnd()
+    {
+        const size_t before = ends.size();
+        QDeadlineTimer deadline(20'000);
+        while (ends.size() == before && !deadline.hasExpired())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 100);
+        ASSERT_GT(ends.size(), before) << "the program did not end";
+    }
+
+    QList<QByteArray> record() const
+    {
+        QList<QByteArray> fields = scratch.read("record").split('\0');
+        if (!fields.isEmpty())
+            fields.removeLast();
+        return fields;
+    }
+
+    support::KeptDirectory kept;
+    support::ScratchDirectory scratch{"Anna & Bob's \xC3\xA4 data"};
+    support::ScopedVariable echoFile{"ECHO_FILE", scratch.path("record")};
+    support::ScopedVariable path{"PATH", scratch.path("bin")};
+    support::ScopedVariable display{"DISPLAY", QByteArray()};
+    support::ScopedVariable wayland{"WAYLAND_DISPLAY", QByteArray()};
+    support::ScopedVariable desktop{"XDG_CURRENT_DESKTOP", QByteArray()};
+    LinuxFileSystem files{QByteArray()};
+    QString base = files.adopt(scratch.path());
+    LinuxPrograms programs{files, ConsoleHelper};
+    std::vector<Ended> ends;
+    StartResult result;
+};
+
+TEST_F(LinuxStarts, run_a_program_with_its_arguments_in_its_directory)
+{
+    const auto got =
+        run(open(at(u"PROGRAM FILES\\KINEMATI.EXE"_s), u"/T /D "_s + CommandText::document(u"MY WALK"_s)));
+    EXPECT_EQ(got, (QList<QByteArray>{scratch.path(), scratch.path("Program Files/Kinemati.exe"), "/T", "/D",
+                                      "MY WALK"}));
+    EXPECT_GT(result.value, 32);
+    ASSERT_EQ(ends.size(), 1U);
+    EXPECT_EQ(ends[0].value, result.value);
+    EXPECT_EQ(ends[0].ending.kind, Ending::Kind::Exited);
+    EXPECT_EQ(ends[0].ending.code, 0);
+}
+
+TEST_F(LinuxStarts, run_directly)
+{
+    Start start = open(at(u"Program Files\\Kinemati.exe"_s), u" /1 "_s + CommandText::document(u"a b.plt"_s));
+    start.verb.clear();
+    EXPECT_EQ(run(start), (QList<QByteArray>{scratch.path(), scratch.path("Program Files/Kinemati.exe"), "/1",
+                                             "a b.plt"}));
+    EXPECT_GT(result.value, 0);
+}
+
+TEST_F(LinuxStarts, run_a_native_program_or_a_script_in_place_of_an_exe)
+{
+    install("bin/noise");
+    EXPECT_EQ(run(open(at(u"BIN\\NOISE.EXE"_s), u"X"_s)).value(1), scratch.path("bin/noise"));
+    scratch.makeExecutable("bin/fourier", QByteArray("#!") + EchoProgram + "\n");
+    EXPECT_EQ(run(open(at(u"BIN\\FOURIER.EXE"_s), u"X"_s)),
+              (QList<QByteArray>{scratch.path(), EchoProgram, scratch.path("bin/fourier"), "X"}));
+}
+
+TEST_F(LinuxStarts, pass_every_document_as_exactly_one_argument)
+{
+    std::mt19937 random(20261121);
+    const QString alphabet = u"abAB1 \t'\"&|;<>()$`\\!*?[]{}~#%^=,-äß🏃\n"_s;
+    for (int i = 0; i < 200; ++i) {
+        QString name;
+        const int length = 1 + static_cast<int>(random() % 30);
+        for (int j = 0; j < length; ++j)
+            name += alphabet[static_cast<int>(random() % static_cast<unsigned>(alphabet.size()))];
+        const auto got = run(
+            open(at(u"Program Files\\Kinemati.exe"_s), u"/T "_s + CommandText::document(name) + u" end"_s));
+        ASSERT_EQ(got.size(), 5) << name.toStdString();
+        EXPECT_EQ(got[3], name.toUtf8()) << name.toStdString();
+    }
+}
+
+TEST_F(LinuxStarts, pass_names_that_are_no_text)
+{
+    const QByteArray bytes = "caf\xE9 \"x\" a:b.dg";
+    scratch.makeFile(bytes);
+    const QString name = files.directory(base, platform::Reading::Anew)->files(u"caf*"_s).at(0);
+    EXPECT_EQ(run(open(at(u"Program Files\\Kinemati.exe"_s), CommandText::document(name))).value(2), bytes);
+}
+
+TEST_F(LinuxStarts, tell_exit_codes_and_crashes)
+{
+    {
+        const support::ScopedVariable code("ECHO_EXIT", "3");
+        run(open(at(u"Program Files\\Kinemati.exe"_s), u"x"_s));
+        EXPECT_EQ(ends.back().ending.kind, Ending::Kind::Exited);
+        EXPECT_EQ(ends.back().ending.code, 3);
+    }
+    const support::ScopedVariable code("ECHO_EXIT", "abort");
+    run(open(at(u"Program Files\\Kinemati.exe"_s), u"x"_s));
+    EXPECT_EQ(ends.back().ending.kind, Ending::Kind::Crashed);
+    EXPECT_EQ(ends.back().ending.code, SIGABRT);
+}
+
+TEST_F(LinuxStarts, say_why_nothing_was_started)
+{
+    scratch.makeFile("plain.exe", "not a program");
+    scratch.makeFile("bin/forbidden.exe", "#!/bin/true\n");
+    scratch.makeExecutable("bin/orphan.exe", "#!/no/such/interpreter\n");
+    scratch.makeFile("windows.exe", QByteArray("MZ") + QByteArray(58, '\0') + QByteArray("\x40\0\0\0", 4)
+                                        + QByteArray("PE\0\0", 4) + QByteArray(200, '\0'));
+    scratch.makeFile("dos.exe", QByteArray("MZ") + QByteArray(100, '\0'));
+    scratch.makeDirectory("folder.exe");
+    const std::pair<QString, QString> table[]{
+        {u"missing.exe"_s, u"it was not found"_s},
+        {u"plain.exe"_s, u"it is not a program"_s},
+        {u"folder.exe"_s, u"it is not a program"_s},
+        {u"bin\\forbidden.exe"_s, u"it may not be executed"_s},
+        {u"bin\\orphan.exe"_s, u"something that it needs to run was not found"_s},
+        {u"windows.exe"_s, u"it is a Windows program, and Wine is not installed"_s},
+        {u"dos.exe"_s, u"it is a DOS program, and DOSBox is not installed"_s},
+        {u"C:\\x.exe"_s, u"bad file name or number"_s},
+    };
+    for (const auto &[file, why] : table) {
+        result = programs.start(open(at(file), u"x"_s));
+        EXPECT_EQ(result.failure, why) << file.toStdString();
+        EXPECT_LE(result.value, 32) << file.toStdString();
+        Start direct = open(at(file), u"x"_s);
+        direct.verb.clear();
+        result = programs.start(direct);
+        EXPECT_EQ(result.failure, why) << file.toStdString();
+        EXPECT_EQ(result.value, 0) << file.toStdString();
+    }
+    EXPECT_TRUE(record().isEmpty());
+}
+
+TEST_F(LinuxStarts, need_their_directory)
+{
+    Start start = open(at(u"Program Files\\Kinemati.exe"_s), u"x"_s);
+    start.directory = at(u"gone"_s);
+    EXPECT_EQ(programs.start(start).failure, u"the directory "_s + at(u"gone"_s) + u" is gone"_s);
+}
+
+TEST_F(LinuxStarts, run_windows_programs_through_wine)
+{
+    install("bin/wine");
+    scratch.makeFile("Kv.exe", QByteArray("MZ") + QByteArray(58, '\0') + QByteArray("\x40\0\0\0", 4)
+                                   + QByteArray("PE\0\0", 4) + QByteArray(200, '\0'));
+    EXPECT_EQ(run(open(at(u"KV.EXE"_s), u"/T "_s + CommandText::document(u"MY WALK"_s))),
+              (QList<QByteArray>{scratch.path(), scratch.path("bin/wine"), scratch.path("Kv.exe"), "/T",
+                                 "MY WALK"}));
+}
+
+TEST_F(LinuxStarts, run_dos_programs_through_dosbox)
+{
+    install("bin/dosbox");
+    scratch.makeFile("bin/OLD.EXE", QByteArray("MZ") + QByteArray(100, '\0'));
+    Start start = open(at(u"BIN\\OLD.EXE"_s), u"/T "_s + CommandText::document(u"WALK1"_s));
+    // The apostrophe and the ampersand of the scratch directory's name are nothing for DOS.
+    EXPECT_EQ(programs.start(start).failure.left(1), u"\""_s);
+    const support::ScratchDirectory plain("plain");
+    std::filesystem::copy_file(scratch.path("bin/OLD.EXE").toStdString(),
+                               plain.path("OLD.EXE").toStdString());
+    start.directory = files.adopt(plain.path());
+    start.file = start.directory + u"\\OLD.EXE"_s;
+    EXPECT_EQ(run(start),
+              (QList<QByteArray>{plain.path(), scratch.path("bin/dosbox"), "-c",
+                                 "MOUNT C \"" + plain.path() + '"', "-c", "MOUNT D \"" + plain.path() + '"',
+                                 "-c", "D:", "-c", "C:\\OLD.EXE /T WALK1", "-c", "EXIT"}));
+}
+
+TEST_F(LinuxStarts, never_take_a_bare_name_from_the_data_directory)
+{
+    install("gedit");
+    install("planted.exe");
+    install("planted");
+    install("notepad.exe");
+    files.changeDrive(base);
+    files.changeDirectory(base);
+    for (const QByteArray &searched :
+         {scratch.path("bin"), QByteArray("."), QByteArray(""), QByteArray(":.:")}) {
+        const support::ScopedVariable variable("PATH", searched);
+        EXPECT_EQ(programs.start(open(u"planted.exe"_s, QString())).failure, u"it was not found"_s);
+        EXPECT_EQ(programs.start(open(u"planted"_s, QString())).failure, u"it was not found"_s);
+        EXPECT_EQ(programs.start(open(u"notepad.exe"_s, QString())).failure,
+                  u"this desktop has no text editor installed"_s);
+    }
+    EXPECT_TRUE(record().isEmpty());
+}
+
+TEST_F(LinuxStarts, find_a_bare_name_where_the_system_keeps_programs)
+{
+    install("bin/my-editor");
+    EXPECT_EQ(run(open(u"my-editor"_s, u"x"_s)),
+              (QList<QByteArray>{scratch.path(), scratch.path("bin/my-editor"), "x"}));
+}
+
+TEST_F(LinuxStarts, open_documents_in_the_desktops_own_editor_by_their_real_path)
+{
+    install("bin/mousepad");
+    scratch.makeFile("WALK1.DG");
+    EXPECT_EQ(run(open(u"Notepad.exe"_s, CommandText::document(u"walk1.dg"_s))),
+              (QList<QByteArray>{scratch.path(), scratch.path("bin/mousepad"), scratch.path("WALK1.DG")}));
+    Start direct = open(u"notepad.exe"_s, u" "_s + CommandText::document(u"new model.cfb"_s));
+    direct.verb.clear();
+    EXPECT_EQ(run(direct), (QList<QByteArray>{scratch.path(), scratch.path("bin/mousepad"),
+                                              scratch.path("new model.cfb")}));
+    EXPECT_EQ(run(open(u"NOTEPAD.EXE"_s, CommandText::document(at(u"walk1.dg"_s)))).value(2),
+              scratch.path("WALK1.DG"));
+}
+
+TEST_F(LinuxStarts, prefer_the_programs_of_the_running_desktop)
+{
+    install("bin/gedit");
+    install("bin/kate");
+    install("bin/kcalc");
+    EXPECT_EQ(run(open(u"notepad.exe"_s, QString())).value(1), scratch.path("bin/gedit"));
+    const support::ScopedVariable variable("XDG_CURRENT_DESKTOP", "ubuntu:KDE");
+    EXPECT_EQ(run(open(u"notepad.exe"_s, QString())).value(1), scratch.path("bin/kate"));
+    EXPECT_EQ(run(open(u"calc.exe"_s, QString())).value(1), scratch.path("bin/kcalc"));
+}
+
+TEST_F(LinuxStarts, say_which_accessory_is_missing)
+{
+    EXPECT_EQ(programs.start(open(u"calc.exe"_s, QString())).failure,
+              u"this desktop has no calculator installed"_s);
+    EXPECT_EQ(programs.start(open(u"command.com"_s, QString())).failure,
+              u"this desktop has no terminal installed"_s);
+    EXPECT_EQ(programs.start(open(u"explorer.exe"_s, QString())).failure,
+              u"this desktop has no file manager installed"_s);
+    EXPECT_EQ(programs.start(open(u"mplayer.exe"_s, QString())).failure,
+              u"this desktop has no media player installed"_s);
+}
+
+/// A terminal that is none: "kitty" takes its command without an option, as env does.
+class LinuxTerminals : public LinuxStarts
+{
+protected:
+    LinuxTerminals() { scratch.makeLink("bin/kitty", "/usr/bin/env"); }
+
+    support::ScopedVariable display{"DISPLAY", ":99"};
+};
+
+TEST_F(LinuxTerminals, show_console_programs)
+{
+    EXPECT_EQ(
+        run(open(at(u"Program Files\\Kinemati.exe"_s), u"/T "_s + CommandText::document(u"MY WALK"_s))),
+        (QList<QByteArray>{scratch.path(), scratch.path("Program Files/Kinemati.exe"), "/T", "MY WALK"}));
+    EXPECT_EQ(ends.back().value, result.value);
+    EXPECT_EQ(ends.back().ending.code, 0);
+}
+
+TEST_F(LinuxTerminals, let_exit_codes_and_crashes_be_known)
+{
+    {
+        const support::ScopedVariable code("ECHO_EXIT", "3");
+        run(open(at(u"Program Files\\Kinemati.exe"_s), u"x"_s));
+        EXPECT_EQ(ends.back().ending.kind, Ending::Kind::Exited);
+        EXPECT_EQ(ends.back().ending.code, 3);
+    }
+    const support::ScopedVariable code("ECHO_EXIT", "abort");
+    run(open(at(u"Program Files\\Kinemati.exe"_s), u"x"_s));
+    EXPECT_EQ(ends.back().ending.kind, Ending::Kind::Crashed);
+    EXPECT_EQ(ends.back().ending.code, SIGABRT);
+    EXPECT_EQ(ends.size(), 2U);
+}
+
+TEST_F(LinuxTerminals, are_not_for_programs_with_windows_of_their_own)
+{
+    scratch.remove("bin/kitty");
+    install("bin/kitty");
+    install("Program Files/GrafoW.exe");
+    EXPECT_EQ(run(open(at(u"Program Files\\GRAFOW.EXE"_s), u"x"_s)).value(1),
+              scratch.path("Program Files/GrafoW.exe"));
+    EXPECT_EQ(programs.start(open(at(u"Program Files\\KINEMATI.EXE"_s), u"x"_s)).failure, QString());
+    // The terminal's own end is no end of the program, so the record tells.
+    QDeadlineTimer deadline(20'000);
+    while (!record().value(1).endsWith("kitty") && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+    const auto got = record();
+    EXPECT_EQ(got.value(1), scratch.path("bin/kitty"));
+    EXPECT_EQ(got.value(2), QByteArray(ConsoleHelper));
+    EXPECT_EQ(got.mid(5), (QList<QByteArray>{scratch.path("Program Files/Kinemati.exe"), "x"}));
+}
+
+TEST_F(LinuxTerminals, do_without_the_helper)
+{
+    LinuxPrograms bare(files, QByteArray());
+    EXPECT_EQ(bare.start(open(at(u"Program Files\\Kinemati.exe"_s), u"x"_s)).failure, QString());
+    QDeadlineTimer deadline(20'000);
+    while (record().isEmpty() && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+    EXPECT_EQ(record(), (QList<QByteArray>{scratch.path(), scratch.path("Program Files/Kinemati.exe"), "x"}));
+}
+
+// ------------------------------------------------------------- what every starter does, recording or
+// starting for real
+
+namespace {
+
+template <typename Starter>
+class StarterContract : public testing::Test
+{
+protected:
+    Starter starter;
+};
+
+struct RecordingStarter
+{
+    StartResult possible(const QString &verb)
+    {
+        return programs.start({.verb = verb, .file = u"C:\\X.EXE"_s});
+    }
+    StartResult impossible(const QString &verb)
+    {
+        programs.failure = u"it was not found"_s;
+        return programs.start({.verb = verb, .file = u"C:\\X.EXE"_s});
+    }
+    support::RecordingPrograms programs;
+};
+
+struct HostStarter
+{
+    HostStarter() { std::filesystem::copy_file(EchoProgram, scratch.path("x.exe").toStdString()); }
+    StartResult start(const QString &verb, const QString &file)
+    {
+        const QString base = files.adopt(scratch.path());
+        return programs.start({.verb = verb, .file = base + u'\\' + file, .directory = base});
+    }
+    StartResult possible(const QString &verb) { return start(verb, u"X.EXE"_s); }
+    StartResult impossible(const QString &verb) { return start(verb, u"MISSING.EXE"_s); }
+
+    support::ScratchDirectory scratch;
+    support::ScopedVariable echoFile{"ECHO_FILE", scratch.path("record")};
+    support::ScopedVariable display{"DISPLAY", QByteArray()};
+    support::ScopedVariable wayland{"WAYLAND_DISPLAY", QByteArray()};
+    LinuxFileSystem files{QByteArray()};
+    LinuxPrograms programs{files, QByteArray()};
+};
+
+using Starters = testing::Types<RecordingStarter, HostStarter>;
+
+} // namespace
+
+TYPED_TEST_SUITE(StarterContract, Starters);
+
+TYPED_TEST(StarterContract, values_tell_success)
+{
+    EXPECT_GT(this->starter.possible(u"open"_s).value, 32);
+    EXPECT_GT(this->starter.possible(QString()).value, 0);
+    EXPECT_EQ(this->starter.possible(QString()).failure, QString());
+}
+
+TYPED_TEST(StarterContract, values_tell_failure_and_the_reason_is_given)
+{
+    EXPECT_LE(this->starter.impossible(u"open"_s).value, 32);
+    EXPECT_EQ(this->starter.impossible(QString()).value, 0);
+    EXPECT_EQ(this->starter.impossible(u"open"_s).failure, u"it was not found"_s);
+}
+
+TYPED_TEST(StarterContract, direct_starts_get_numbers_of_their_own)
+{
+    EXPECT_NE(this->starter.possible(QString()).value, this->starter.possible(QString()).value);
+}

@@ -1,0 +1,34 @@
+#include "printing.h"
+
+void PrintTo(const QString &text, std::ostream *out)
+{
+    *out << '"' << text.toStdString() << '"';
+}
+
+namespace platform {
+
+void PrintTo(const Start &start, std::ostream *out)
+{
+    *out << "verb=\"" << start.verb.toStdString() << "\" file=\"" << start.file.toStdString()
+         << "\" parameters=\"" << start.parameters.text().toStdString() << "\" documents=";
+    for (const CommandText::Range &range : start.parameters.documents())
+        *out << range.from << '+' << range.length << ' ';
+    *out << "directory=\"" << start.directory.toStdString() << "\" show=" << static_cast<int>(start.show)
+         << " owner=" << start.owner;
+}
+
+void PrintTo(const MessageBox &box, std::ostream *out)
+{
+    *out << "text=\"" << box.text.toStdString() << "\" icon=" << static_cast<int>(box.icon)
+         << " buttons=" << static_cast<int>(box.buttons) << " title=\"" << box.title.toStdString() << '"';
+}
+
+void PrintTo(const OpenFileRequest &request, std::ostream *out)
+{
+    *out << "directory=\"" << request.initialDirectory.toStdString() << "\" name=\""
+         << request.fileName.toStdString() << "\" filter=\"" << request.filter.toStdString()
+         << "\" index=" << request.filterIndex << " title=\"" << request.title.toStdString()
+         << "\" mustExist=" << request.mustExist << " hideReadOnly=" << request.hideReadOnly;
+}
+
+} // namespace platform
