@@ -1,0 +1,30 @@
+#pragma once
+
+#include "controls/control.h"
+
+#include <array>
+
+namespace controls {
+
+/// An item of a menu, or a menu itself.
+struct MenuItem
+{
+    QProperty<QString> Caption;
+    QProperty<bool> Visible{true};
+    QProperty<bool> Enabled{true};
+    QProperty<bool> Checked{false};
+
+    Event Click;
+    Event Opening; ///< of a menu: it is about to open
+
+    /// Of a menu: whether its Opening would raise a message box now. Such a menu opens only after the box is
+    /// answered, and passing along the menu bar does not ask.
+    std::function<bool()> AsksOnOpening;
+    bool OpensAfterAsking = false; ///< whether the menu opens once that box is answered
+};
+
+/// A menu array: items of like commands, indexed from 0 in menu order.
+template <int N>
+using MenuArray = std::array<MenuItem, N>;
+
+} // namespace controls
