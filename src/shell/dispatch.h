@@ -1,0 +1,30 @@
+#pragma once
+
+#include "shell/panel.h"
+
+#include <exception>
+
+namespace shell {
+
+/// Raised inside a handler that was waiting when the main window was closed. It ends the handler silently.
+class Unloaded : public std::exception
+{
+public:
+    const char *what() const noexcept override { return "the main window was closed"; }
+};
+
+/// Runs a handler for an event. Errors that the handler does not catch itself are shown, and the panel goes
+/// on: nothing ever escapes from here. An event without a handler does nothing, nor does any event once the
+/// panel is unloading.
+void dispatch(Panel &panel, const controls::Event &handler);
+
+/// Lets window events run for `seconds`. Raises Unloaded when the main window is closed meanwhile.
+void pause(Panel &panel, double seconds);
+
+/// Shows a message box and gives its answer. Raises Unloaded when the main window is closed meanwhile.
+platform::Answer MsgBox(Panel &panel, const platform::MessageBox &box);
+
+/// Says `text` in the status bar's first panel: it never interrupts and takes no answer.
+void say(Panel &panel, const QString &text);
+
+} // namespace shell
