@@ -1,0 +1,136 @@
+#include "browser/file_lists.h"
+
+#include "platform/letter_case.h"
+#include "platform/runtime_error.h"
+#include "shell/dispatch.h"
+
+using namespace Qt::StringLiterals;
+
+namespace browser {
+
+namespace {
+
+using platform::Icon;
+using platform::Reading;
+using platform::RuntimeError;
+using platform::UCase;
+using shell::MsgBox;
+
+void show(controls::FileList &list, controls::Label &label)
+{
+    label.Visible = true;
+    list.Visible = true;
+}
+
+void sayUnreadable(Panel &panel, const QString &path, const RuntimeError &error)
+{
+    shell::say(panel, u"%1 cannot be read: %2."_s.arg(path, error.Description));
+}
+
+// The three graph buttons and the graph-type list take turns in one place.
+void showGraphButtons(Panel &panel)
+{
+    auto &frm = panel.frm;
+    frm.filGraFiles.Visible = false;
+    frm.lblGraFiles.Visible = false;
+    frm.cmdGraph.Visible = true;
+    frm.cmdSelectGra.Visible = true;
+    frm.cmdEditGra.Visible = true;
+}
+
+// The lists of the data directory and the directory list share one reading of it.
+void refreshDataDirectory(Panel &panel)
+{
+    auto [kinovra, frm, platform] = panel.parts();
+
+    const std::initializer_list<FileList *> lists{&frm.filDatafiles, &frm.filModels, &frm.filPlots,
+                                                  &frm.filBinaries, &frm.filOutputs};
+    refresh(panel, lists);
+    try {
+        frm.dirSelect.show(*platform.files.directory(frm.dirSelect.Path(), Reading::WhenChanged));
+    } catch (const RuntimeError &) {
+        frm.dirSelect.showGone();
+    }
+}
+
+} // namespace
+
+void pointAt(Panel &panel, FileList &list, const QString &path)
+{
+    list.show(*panel.platform.files.directory(path, Reading::WhenChanged));
+}
+
+void pointAtDataDir(Panel &panel)
+{
+    auto [kinovra, frm, platform] = panel.parts();
+
+    const auto directory = platform.files.directory(kinovra.DataDir, Reading::WhenChanged);
+    for (FileList *list :
+         {&frm.filDatafiles, &frm.filModels, &frm.filBinaries, &frm.filPlots, &frm.filOutputs})
+        list->show(*directory);
+}
+
+void refresh(Panel &panel, std::initializer_list<FileList *> lists)
+{
+    const QString path = (*lists.begin())->Path();
+    if (path.isEmpty())
+        return;
+    try {
+        const auto directory = panel.platform.files.directory(path, Reading::Anew);
+        for (FileList *list : lists)
+            list->refresh(directory->files(list->Pattern));
+    } catch (const RuntimeError &error) {
+        for (FileList *list : lists)
+            list->refresh({});
+        sayUnreadable(panel, path, error);
+    }
+}
+
+void refreshResultLists(Panel &panel)
+{
+    auto &frm = panel.frm;
+    refresh(panel, {&frm.filBinaries, &frm.filOutputs, &frm.filPlots});
+}
+
+void cmdRefresh_Click(Panel &panel)
+{
+    auto [kinovra, frm, platform] = panel.parts();
+
+    show(frm.filDatafiles, frm.lblDatafiles);
+    show(frm.filModels, frm.lblModels);
+    show(frm.filPlots, frm.lblPlots);
+    show(frm.filBinaries, frm.lblBinaries);
+    // A View command may have hidden the graph buttons with nothing left to bring them back.
+    if (!frm.filGraFiles.Visible)
+        showGraphButtons(panel);
+    refreshDataDirectory(panel);
+    refresh(panel, {&frm.filGraFiles});
+    frm.drvDrives.refresh(platform.files.drives());
+    platform.clock.letPendingEventsRun();
+}
+
+void filGraFiles_Click(Panel &panel)
+{
+    auto &frm = panel.frm;
+    showGraphButtons(panel);
+    if (frm.filGraFiles.ListCount() == 0) {
+        MsgBox(panel, {u"No .GRA files were found in the program directory."_s, Icon::Exclamation});
+        frm.lblGraphics[0].Caption = UCase(frm.CurrentGRA);
+        frm.cmdEditGra.Enabled = false;
+        return;
+    }
+    if (frm.filGraFiles.ListIndex < 0)
+        return;
+    frm.CurrentGRA = frm.filGraFiles.FileName();
+    frm.lblGraphics[0].Caption = UCase(frm.CurrentGRA);
+    frm.cmdEditGra.Enabled = true;
+}
+
+void filGraFiles_MouseUp(Panel &panel, int button)
+{
+    constexpr int RightButton = 2;
+    if (button == RightButton)
+        showGraphButtons(panel);
+}
+
+} // namespace browser

@@ -1,0 +1,97 @@
+#include "launcher/starting.h"
+
+#include "platform/path_language.h"
+#include "shell/dispatch.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace launcher {
+
+namespace {
+
+using platform::Ending;
+using shell::RunningProgram;
+
+double start(Panel &panel, const platform::Start &request)
+{
+    const platform::StartResult result = panel.platform.programs.start(request);
+    const QString name = platform::nameOf(request.file);
+    if (result.failure.isEmpty()) {
+        panel.running.push_back({result.value, name, QString(), std::nullopt});
+        shell::say(panel, QString());
+    } else {
+        shell::say(panel, u"%1 was not started: %2."_s.arg(name, result.failure));
+    }
+    return result.value;
+}
+
+QString endingText(const RunningProgram &program, const Ending &ending)
+{
+    if (ending.kind == Ending::Kind::Crashed)
+        return u"%1 was stopped by an error (signal %2)."_s.arg(program.name, QString::number(ending.code));
+    if (ending.code != 0)
+        return u"%1 ended with error %2."_s.arg(program.name, QString::number(ending.code));
+    return {};
+}
+
+bool listingIsNew(Panel &panel, const RunningProgram &program)
+{
+    if (program.listing.isEmpty())
+        return false;
+    const auto now = panel.platform.files.stamp(program.listing);
+    return now && now != program.listingBefore;
+}
+
+} // namespace
+
+double openWithSystem(Panel &panel, const QString &file, const CommandText &parameters,
+                      const QString &directory, platform::Show show)
+{
+    return start(panel, {.verb = u"open"_s,
+                         .file = file,
+                         .parameters = parameters,
+                         .directory = directory,
+                         .show = show,
+                         .owner = panel.kinovra.MainWindowHandle});
+}
+
+double startDirectly(Panel &panel, const QString &program, const CommandText &parameters, platform::Show show)
+{
+    return start(panel, {.verb = QString(),
+                         .file = program,
+                         .parameters = parameters,
+                         .directory = panel.kinovra.DataDir,
+                         .show = show,
+                         .owner = 0});
+}
+
+void watchListing(Panel &panel, double value, const QString &listing,
+                  const std::optional<platform::FileStamp> &before)
+{
+    for (RunningProgram &program : panel.running) {
+        if (program.value == value) {
+            program.listing = listing;
+            program.listingBefore = before;
+        }
+    }
+}
+
+void programEnded(Panel &panel, double value, const Ending &ending)
+{
+    const auto found =
+        std::find_if(panel.running.begin(), panel.running.end(),
+                     [value](const RunningProgram &program) { return program.value == value; });
+    if (found == panel.running.end())
+        return;
+    const RunningProgram program = *found;
+    panel.running.erase(found);
+    const QString error = endingText(program, ending);
+    if (!error.isEmpty())
+        shell::say(panel, error);
+    else if (listingIsNew(panel, program))
+        shell::say(panel, u"%1 is ready."_s.arg(platform::nameOf(program.listing)));
+}
+
+} // namespace launcher

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "shell/panel.h"
+
+namespace launcher {
+
+using platform::CommandText;
+using shell::Panel;
+
+/// Asks the operating system to "open" `file` with `parameters` in `directory`, the main window being the
+/// owner. The result is more than 32 on success. A failure is told in the status bar and nowhere else.
+double openWithSystem(Panel &panel, const QString &file, const CommandText &parameters,
+                      const QString &directory, platform::Show show);
+
+/// Whether the value of an "open" means that it succeeded.
+constexpr bool isStarted(double value)
+{
+    return value > 32;
+}
+
+/// Starts `program` directly, `parameters` following it as they stand; bare file names in them mean files of
+/// the data directory. The result is a task number, 0 on failure, which the status bar tells.
+double startDirectly(Panel &panel, const QString &program, const CommandText &parameters,
+                     platform::Show show);
+
+/// Remembers that the program started as `value` may write `listing`, so that its end can be told.
+void watchListing(Panel &panel, double value, const QString &listing,
+                  const std::optional<platform::FileStamp> &before);
+
+/// A started program has ended: the status bar says when that was with an error, or that its listing is
+/// ready.
+void programEnded(Panel &panel, double value, const platform::Ending &ending);
+
+} // namespace launcher

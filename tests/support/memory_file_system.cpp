@@ -1,0 +1,207 @@
+#include "memory_file_system.h"
+
+#include "platform/letter_case.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace support {
+
+using platform::ErrorNumber;
+using platform::RuntimeError;
+using platform::UCase;
+
+MemoryFileSystem::MemoryFileSystem()
+{
+    addDrive(u"c: [data]"_s);
+}
+
+void MemoryFileSystem::addDrive(const QString &text)
+{
+    drives_.append(text);
+    drives_.sort();
+    addDirectory(platform::rootOf(UCase(text).at(0)));
+}
+
+void MemoryFileSystem::removeDrive(QChar drive)
+{
+    drives_.removeIf([drive](const QString &text) { return UCase(text).at(0) == drive; });
+    remove(platform::rootOf(drive));
+}
+
+MemoryFileSystem::Node &MemoryFileSystem::makeNode(const QString &path)
+{
+    const QString parent = platform::parentOf(path);
+    if (parent != path && !nodes_.contains(UCase(parent)))
+        addDirectory(parent);
+    Node &node = nodes_[UCase(path)];
+    if (node.path.isEmpty())
+        node.path =
+            parent == path ? path : platform::joinPath(nodes_[UCase(parent)].path, platform::nameOf(path));
+    node.version = ++version_;
+    return node;
+}
+
+void MemoryFileSystem::addDirectory(const QString &path)
+{
+    makeNode(path).isDirectory = true;
+}
+
+void MemoryFileSystem::addFile(const QString &path, const QByteArray &content)
+{
+    makeNode(path).content = content;
+}
+
+void MemoryFileSystem::hide(const QString &path)
+{
+    nodes_[UCase(path)].hidden = true;
+}
+
+void MemoryFileSystem::forbid(const QString &path, ErrorNumber error)
+{
+    nodes_[UCase(path)].error = error;
+}
+
+void MemoryFileSystem::setShortName(const QString &path, const QString &shortName)
+{
+    nodes_[UCase(path)].shortName = shortName;
+}
+
+void MemoryFileSystem::remove(const QString &path)
+{
+    const QString upper = UCase(path);
+    const QString below = platform::joinPath(upper, QString());
+    nodes_.removeIf([&](std::pair<const QString &, Node &> entry) {
+        return entry.first == upper || entry.first.startsWith(below);
+    });
+}
+
+void MemoryFileSystem::announce(const char *call) const
+{
+    if (beforeCall)
+        beforeCall(QLatin1String(call));
+}
+
+QString MemoryFileSystem::absolute(const QString &path) const
+{
+    const QString result = current_.absolute(path);
+    if (!nodes_.contains(UCase(result.left(3))))
+        throw RuntimeError(ErrorNumber::DeviceUnavailable);
+    return result;
+}
+
+MemoryFileSystem::Node *MemoryFileSystem::find(const QString &absolutePath)
+{
+    const auto found = nodes_.find(UCase(absolutePath));
+    return found == nodes_.end() ? nullptr : &*found;
+}
+
+QStringList MemoryFileSystem::drives()
+{
+    return drives_;
+}
+
+QString MemoryFileSystem::currentDirectory()
+{
+    return current_.current();
+}
+
+void MemoryFileSystem::changeDrive(const QString &drive)
+{
+    announce("changeDrive");
+    const QChar letter = UCase(drive.left(1)).isEmpty() ? QChar() : UCase(drive).at(0);
+    if (letter < u'A' || letter > u'Z')
+        throw RuntimeError(ErrorNumber::InvalidProcedureCall);
+    if (find(platform::rootOf(letter)) == nullptr)
+        throw RuntimeError(ErrorNumber::DeviceUnavailable);
+    current_.setDrive(letter);
+}
+
+void MemoryFileSystem::changeDirectory(const QString &path)
+{
+    announce("changeDirectory");
+    const Node *node = find(absolute(path));
+    if (node == nullptr || !node->isDirectory)
+        throw RuntimeError(ErrorNumber::PathNotFound);
+    if (node->error)
+        throw RuntimeError(*node->error);
+    current_.set(node->path);
+}
+
+std::shared_ptr<const platform::Directory> MemoryFileSystem::directory(const QString &path, platform::Reading)
+{
+    announce("directory");
+    ++directoriesRead;
+    const Node *node = find(absolute(path));
+    if (node == nullptr || !node->isDirectory)
+        throw RuntimeError(ErrorNumber::PathNotFound);
+    if (node->error)
+        throw RuntimeError(*node->error);
+    auto result = platform::Directory::create(node->path);
+    for (const Node &entry : std::as_const(nodes_)) {
+        if (platform::parentOf(entry.path) == node->path && entry.path != node->path) {
+            result->add(platform::nameOf(entry.path),
+                        entry.isDirectory ? platform::Directory::Kind::Folder
+                                          : platform::Directory::Kind::File,
+                        entry.hidden);
+        }
+    }
+    return result;
+}
+
+MemoryFileSystem::Node &MemoryFileSystem::openable(const QString &path)
+{
+    const QString full = absolute(path);
+    Node *node = find(full);
+    if (node == nullptr) {
+        const Node *parent = find(platform::parentOf(full));
+        throw RuntimeError(parent != nullptr ? ErrorNumber::FileNotFound : ErrorNumber::PathNotFound);
+    }
+    if (node->error)
+        throw RuntimeError(*node->error);
+    if (node->isDirectory)
+        throw RuntimeError(ErrorNumber::PathFileAccess);
+    return *node;
+}
+
+qint16 MemoryFileSystem::testReading(const QString &path) noexcept
+{
+    tested.append(path);
+    try {
+        announce("testReading");
+        openable(path);
+        return 0;
+    } catch (const RuntimeError &error) {
+        return error.Number;
+    }
+}
+
+QString MemoryFileSystem::firstLine(const QString &path)
+{
+    announce("firstLine");
+    const Node &node = openable(path);
+    if (node.content.isEmpty())
+        throw RuntimeError(ErrorNumber::InputPastEnd);
+    const auto end =
+        std::find_if(node.content.begin(), node.content.end(), [](char c) { return c == '\r' || c == '\n'; });
+    return QString::fromUtf8(node.content.left(end - node.content.begin()));
+}
+
+QString MemoryFileSystem::shortName(const QString &path)
+{
+    announce("shortName");
+    const Node &node = openable(path);
+    return node.shortName.isEmpty() ? platform::nameOf(node.path) : node.shortName;
+}
+
+std::optional<platform::FileStamp> MemoryFileSystem::stamp(const QString &path)
+{
+    const Node *node = find(current_.absolute(path));
+    if (node == nullptr)
+        return std::nullopt;
+    return platform::FileStamp{
+        .size = node->content.size(), .modified = node->version, .changed = node->version};
+}
+
+} // namespace support

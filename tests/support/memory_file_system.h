@@ -1,0 +1,77 @@
+#pragma once
+
+#include "platform/file_system.h"
+#include "platform/path_language.h"
+#include "platform/runtime_error.h"
+
+#include <QByteArray>
+#include <QMap>
+
+#include <functional>
+
+namespace support {
+
+/// A file system in memory: a real implementation of the platform's interface beside the host's. Names keep
+/// the case in which they were made, and case does not count.
+class MemoryFileSystem : public platform::FileSystem
+{
+public:
+    MemoryFileSystem();
+
+    /// Adds a drive; `text` is its drive text, such as "d:" or "c: [data]".
+    void addDrive(const QString &text);
+    void removeDrive(QChar drive);
+
+    /// Makes the directory `path` and all above it.
+    void addDirectory(const QString &path);
+    /// Makes or replaces a file and the directories above it.
+    void addFile(const QString &path, const QByteArray &content = "x");
+    void hide(const QString &path);
+    void forbid(const QString &path, platform::ErrorNumber error);
+    void setShortName(const QString &path, const QString &shortName);
+    /// Removes a file, or a directory with all that it holds.
+    void remove(const QString &path);
+
+    QStringList drives() override;
+    QString currentDirectory() override;
+    void changeDrive(const QString &drive) override;
+    void changeDirectory(const QString &path) override;
+    std::shared_ptr<const platform::Directory> directory(const QString &path,
+                                                         platform::Reading reading) override;
+    qint16 testReading(const QString &path) noexcept override;
+    QString firstLine(const QString &path) override;
+    QString shortName(const QString &path) override;
+    std::optional<platform::FileStamp> stamp(const QString &path) override;
+
+    /// Called before each call that may fail, with its name; it may raise a RuntimeError.
+    std::function<void(const QString &call)> beforeCall;
+    /// What was tested for reading, as it was asked for.
+    QStringList tested;
+    /// How many directories were read.
+    int directoriesRead = 0;
+
+private:
+    struct Node
+    {
+        QString path; ///< spelled as it was made
+        bool isDirectory = false;
+        bool hidden = false;
+        QByteArray content;
+        QString shortName;
+        std::optional<platform::ErrorNumber> error;
+        qint64 version = 0;
+    };
+
+    void announce(const char *call) const;
+    QString absolute(const QString &path) const;
+    Node *find(const QString &absolutePath);
+    Node &openable(const QString &path);
+    Node &makeNode(const QString &path);
+
+    QStringList drives_;
+    platform::CurrentDirectories current_;
+    QMap<QString, Node> nodes_; ///< by upper-case path
+    qint64 version_ = 0;
+};
+
+} // namespace support
