@@ -1,0 +1,62 @@
+#include "platform/event_loop_clock.h"
+
+#include <QCoreApplication>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+#include <ctime>
+
+namespace {
+
+double processorSeconds()
+{
+    return double(std::clock()) / CLOCKS_PER_SEC;
+}
+
+} // namespace
+
+TEST(EventLoopClock, never_goes_back)
+{
+    platform::EventLoopClock clock;
+    const double first = clock.seconds();
+    EXPECT_GE(clock.seconds(), first);
+}
+
+TEST(EventLoopClock, waits_while_events_run_and_does_not_spin)
+{
+    platform::EventLoopClock clock;
+    bool ran = false;
+    QTimer::singleShot(20, [&ran] { ran = true; });
+    const double before = clock.seconds();
+    const double processorBefore = processorSeconds();
+    clock.letEventsRunUntil(before + 0.2);
+    EXPECT_GE(clock.seconds(), before + 0.2);
+    EXPECT_TRUE(ran);
+    EXPECT_LT(processorSeconds() - processorBefore, 0.1);
+}
+
+TEST(EventLoopClock, does_not_wait_for_the_past)
+{
+    platform::EventLoopClock clock;
+    bool ran = false;
+    QTimer::singleShot(0, [&ran] { ran = true; });
+    clock.letEventsRunUntil(clock.seconds() - 1);
+    EXPECT_FALSE(ran);
+    clock.letPendingEventsRun();
+    EXPECT_TRUE(ran);
+}
+
+TEST(EventLoopClock, leaves_its_pauses_when_the_program_ends)
+{
+    platform::EventLoopClock clock;
+    bool inner = false;
+    QTimer::singleShot(0, [&] {
+        QTimer::singleShot(10, [] { QCoreApplication::exit(0); });
+        clock.letEventsRunUntil(clock.seconds() + 30);
+        inner = true;
+    });
+    const double before = clock.seconds();
+    EXPECT_EQ(QCoreApplication::exec(), 0);
+    EXPECT_TRUE(inner);
+    EXPECT_LT(clock.seconds(), before + 20);
+}

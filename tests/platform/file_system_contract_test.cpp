@@ -1,0 +1,272 @@
+// What every file system of the platform does, the one in memory as well as the host's.
+
+#include "memory_file_system.h"
+#include "platform/linux/linux_file_system.h"
+#include "platform/runtime_error.h"
+#include "printing.h"
+#include "scratch_directory.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+using platform::FileSystem;
+using platform::Reading;
+
+namespace {
+
+/// A file system with a fresh directory in which a test makes files.
+class World
+{
+public:
+    virtual ~World() = default;
+    virtual FileSystem &files() = 0;
+    virtual QString base() = 0;
+    virtual void makeDirectory(const QString &name) = 0;
+    virtual void makeFile(const QString &name, const QByteArray &content) = 0;
+    virtual void makeHidden(const QString &name) = 0;
+    virtual void remove(const QString &name) = 0;
+};
+
+class MemoryWorld : public World
+{
+public:
+    MemoryWorld() { files_.addDirectory(base()); }
+    FileSystem &files() override { return files_; }
+    QString base() override { return u"C:\\Some Place\\Base"_s; }
+    void makeDirectory(const QString &name) override { files_.addDirectory(path(name)); }
+    void makeFile(const QString &name, const QByteArray &content) override
+    {
+        files_.addFile(path(name), content);
+    }
+    void makeHidden(const QString &name) override
+    {
+        files_.addFile(path(u'.' + name));
+        files_.hide(path(u'.' + name));
+    }
+    void remove(const QString &name) override { files_.remove(path(name)); }
+
+private:
+    QString path(const QString &name) { return base() + u'\\' + name; }
+    support::MemoryFileSystem files_;
+};
+
+class HostWorld : public World
+{
+public:
+    HostWorld() : base_(files_.adopt(scratch_.path())) {}
+    FileSystem &files() override { return files_; }
+    QString base() override { return base_; }
+    void makeDirectory(const QString &name) override { scratch_.makeDirectory(name.toUtf8()); }
+    void makeFile(const QString &name, const QByteArray &content) override
+    {
+        scratch_.makeFile(name.toUtf8(), content);
+    }
+    void makeHidden(const QString &name) override { scratch_.makeFile('.' + name.toUtf8()); }
+    void remove(const QString &name) override { scratch_.remove(name.toUtf8()); }
+
+private:
+    support::ScratchDirectory scratch_{"Some Place"};
+    platform::host::LinuxFileSystem files_{QByteArray()};
+    QString base_;
+};
+
+template <typename Made>
+std::unique_ptr<World> make()
+{
+    return std::make_unique<Made>();
+}
+
+using MakeWorld = std::unique_ptr<World> (*)();
+
+class FileSystemContract : public testing::TestWithParam<MakeWorld>
+{
+protected:
+    QString at(const QString &name) const { return world->base() + u'\\' + name; }
+
+    static qint16 errorOf(const std::function<void()> &call)
+    {
+        try {
+            call();
+        } catch (const platform::RuntimeError &error) {
+            return error.Number;
+        }
+        return 0;
+    }
+
+    std::unique_ptr<World> world = GetParam()();
+    FileSystem &files = world->files();
+};
+
+} // namespace
+
+TEST_P(FileSystemContract, opens_files_without_regard_to_case)
+{
+    world->makeFile(u"Walk1.Dg"_s, "title\n");
+    EXPECT_EQ(files.testReading(at(u"Walk1.Dg"_s)), 0);
+    EXPECT_EQ(files.testReading(at(u"WALK1.DG"_s).toUpper()), 0);
+    EXPECT_EQ(files.testReading(at(u"walk1.dg"_s).toLower()), 0);
+}
+
+TEST_P(FileSystemContract, says_why_a_file_cannot_be_opened)
+{
+    world->makeDirectory(u"folder"_s);
+    EXPECT_EQ(files.testReading(at(u"missing.dg"_s)), 53);
+    EXPECT_EQ(files.testReading(at(u"nowhere\\missing.dg"_s)), 76);
+    EXPECT_EQ(files.testReading(at(u"folder"_s)), 75);
+    EXPECT_EQ(files.testReading(world->base() + u'\\'), 75);
+    EXPECT_EQ(files.testReading(at(u"C:\\x.exe"_s)), 52);
+    EXPECT_EQ(files.testReading(u"Q:\\x.exe"_s), 68);
+    EXPECT_EQ(files.testReading(u"\\\\server\\share\\x.exe"_s), 76);
+}
+
+TEST_P(FileSystemContract, notices_files_that_come_and_go)
+{
+    EXPECT_EQ(files.testReading(at(u"RUN1.KM"_s).toUpper()), 53);
+    world->makeFile(u"run1.km"_s, "x");
+    EXPECT_EQ(files.testReading(at(u"RUN1.KM"_s).toUpper()), 0);
+    world->remove(u"run1.km"_s);
+    EXPECT_EQ(files.testReading(at(u"RUN1.KM"_s).toUpper()), 53);
+}
+
+TEST_P(FileSystemContract, reads_first_lines)
+{
+    world->makeFile(u"unix.dg"_s, "Title one\nmore");
+    world->makeFile(u"dos.dg"_s, "Title two\r\nmore");
+    world->makeFile(u"mac.dg"_s, "Title three\rmore");
+    world->makeFile(u"short.dg"_s, "only");
+    world->makeFile(u"blank.dg"_s, "\r\nmore");
+    world->makeFile(u"utf8.dg"_s, "L\xC3\xA4ufer\n");
+    EXPECT_EQ(files.firstLine(at(u"UNIX.DG"_s)), u"Title one"_s);
+    EXPECT_EQ(files.firstLine(at(u"dos.dg"_s)), u"Title two"_s);
+    EXPECT_EQ(files.firstLine(at(u"mac.dg"_s)), u"Title three"_s);
+    EXPECT_EQ(files.firstLine(at(u"short.dg"_s)), u"only"_s);
+    EXPECT_EQ(files.firstLine(at(u"blank.dg"_s)), QString());
+    EXPECT_EQ(files.firstLine(at(u"utf8.dg"_s)), u"Läufer"_s);
+}
+
+TEST_P(FileSystemContract, raises_where_there_is_no_first_line)
+{
+    world->makeFile(u"empty.dg"_s, QByteArray());
+    world->makeDirectory(u"folder.dg"_s);
+    EXPECT_EQ(errorOf([&] { files.firstLine(at(u"empty.dg"_s)); }), 62);
+    EXPECT_EQ(errorOf([&] { files.firstLine(at(u"missing.dg"_s)); }), 53);
+    EXPECT_EQ(errorOf([&] { files.firstLine(at(u"folder.dg"_s)); }), 75);
+}
+
+TEST_P(FileSystemContract, lists_a_directory_with_its_true_spelling)
+{
+    world->makeFile(u"b.dg"_s, "x");
+    world->makeFile(u"A.DG"_s, "x");
+    world->makeHidden(u"c.dg"_s);
+    world->makeDirectory(u"Sub"_s);
+    world->makeDirectory(u"d.dg"_s);
+    const auto directory = files.directory(world->base().toUpper(), Reading::WhenChanged);
+    EXPECT_EQ(directory->path(), world->base());
+    EXPECT_EQ(directory->files(u"*.dg"_s).toList(), (QStringList{u"A.DG"_s, u"b.dg"_s}));
+    EXPECT_EQ(directory->folders().toList(), (QStringList{u"d.dg"_s, u"Sub"_s}));
+}
+
+TEST_P(FileSystemContract, lists_what_is_there_now)
+{
+    EXPECT_TRUE(files.directory(world->base(), Reading::WhenChanged)->files(u"*"_s).isEmpty());
+    world->makeFile(u"new.dg"_s, "x");
+    EXPECT_EQ(files.directory(world->base(), Reading::WhenChanged)->files(u"*"_s).count(), 1);
+    world->makeFile(u"newer.dg"_s, "x");
+    EXPECT_EQ(files.directory(world->base(), Reading::Anew)->files(u"*"_s).count(), 2);
+}
+
+TEST_P(FileSystemContract, raises_for_what_is_no_directory)
+{
+    world->makeFile(u"file"_s, "x");
+    EXPECT_EQ(errorOf([&] { files.directory(at(u"missing"_s), Reading::Anew); }), 76);
+    EXPECT_EQ(errorOf([&] { files.directory(at(u"file"_s), Reading::Anew); }), 76);
+    EXPECT_EQ(errorOf([&] { files.directory(u"Q:\\"_s, Reading::Anew); }), 68);
+    EXPECT_EQ(errorOf([&] { files.directory(u"\\\\server\\share"_s, Reading::Anew); }), 76);
+}
+
+TEST_P(FileSystemContract, changes_the_current_directory)
+{
+    world->makeDirectory(u"Sub"_s);
+    files.changeDrive(world->base());
+    files.changeDirectory(at(u"SUB"_s));
+    EXPECT_EQ(files.currentDirectory(), at(u"Sub"_s));
+    files.changeDirectory(u"..\\"_s);
+    EXPECT_EQ(files.currentDirectory(), world->base());
+    files.changeDirectory(u"sub"_s);
+    EXPECT_EQ(files.currentDirectory(), at(u"Sub"_s));
+}
+
+TEST_P(FileSystemContract, stays_where_it_is_when_a_directory_cannot_be_entered)
+{
+    world->makeFile(u"file"_s, "x");
+    files.changeDrive(world->base());
+    files.changeDirectory(world->base());
+    EXPECT_EQ(errorOf([&] { files.changeDirectory(at(u"missing"_s)); }), 76);
+    EXPECT_EQ(errorOf([&] { files.changeDirectory(at(u"file"_s)); }), 76);
+    EXPECT_EQ(errorOf([&] { files.changeDirectory(u"Q:\\"_s); }), 68);
+    EXPECT_EQ(errorOf([&] { files.changeDirectory(QString()); }), 76);
+    EXPECT_EQ(files.currentDirectory(), world->base());
+}
+
+TEST_P(FileSystemContract, changes_the_current_drive_by_its_letter)
+{
+    const QString letter = world->base().left(1);
+    files.changeDrive(letter.toLower() + u": [label]"_s);
+    EXPECT_EQ(files.currentDirectory().left(1), letter);
+    EXPECT_EQ(errorOf([&] { files.changeDrive(u"Q:"_s); }), 68);
+    EXPECT_EQ(errorOf([&] { files.changeDrive(u"\\\\server"_s); }), 5);
+    EXPECT_EQ(errorOf([&] { files.changeDrive(QString()); }), 5);
+}
+
+TEST_P(FileSystemContract, accepts_drive_texts_as_paths_and_in_front_of_them)
+{
+    world->makeFile(u"run1.dg"_s, "Run\n");
+    files.changeDrive(world->base());
+    files.changeDirectory(world->base());
+    const QString drive = world->base().left(1).toLower() + u':';
+    const QString labelled = drive + u" [a label]"_s;
+    EXPECT_EQ(files.testReading(labelled.toUpper() + u"\\RUN1.DG"_s), 0);
+    EXPECT_EQ(files.firstLine(labelled + u"\\run1.dg"_s), u"Run"_s);
+    EXPECT_EQ(files.directory(drive, Reading::WhenChanged)->path(), world->base());
+    EXPECT_EQ(files.directory(labelled, Reading::WhenChanged)->path(), world->base());
+    files.changeDirectory(labelled);
+    EXPECT_EQ(files.currentDirectory(), world->base());
+}
+
+TEST_P(FileSystemContract, lists_its_drives_in_letter_order)
+{
+    const QStringList drives = files.drives();
+    EXPECT_FALSE(drives.isEmpty());
+    for (const QString &drive : drives) {
+        EXPECT_TRUE(drive[0] >= u'a' && drive[0] <= u'z') << drive.toStdString();
+        EXPECT_EQ(drive[1], u':');
+    }
+    EXPECT_TRUE(std::is_sorted(drives.begin(), drives.end()));
+    EXPECT_TRUE(std::any_of(drives.begin(), drives.end(),
+                            [&](const QString &drive) { return drive[0] == world->base()[0].toLower(); }));
+}
+
+TEST_P(FileSystemContract, gives_the_short_name_of_an_existing_file)
+{
+    world->makeFile(u"run1.dg"_s, "x");
+    EXPECT_EQ(files.shortName(at(u"run1.dg"_s)).toUpper(), u"RUN1.DG"_s);
+    EXPECT_EQ(errorOf([&] { files.shortName(at(u"missing.dg"_s)); }), 53);
+}
+
+TEST_P(FileSystemContract, stamps_change_when_a_file_is_written)
+{
+    EXPECT_FALSE(files.stamp(at(u"Kinemati.out"_s)).has_value());
+    world->makeFile(u"Kinemati.out"_s, "one");
+    const auto first = files.stamp(at(u"KINEMATI.OUT"_s));
+    ASSERT_TRUE(first.has_value());
+    EXPECT_EQ(files.stamp(at(u"Kinemati.out"_s)), first);
+    world->makeFile(u"Kinemati.out"_s, "longer");
+    EXPECT_NE(files.stamp(at(u"Kinemati.out"_s)), first);
+    EXPECT_FALSE(files.stamp(u"Q:\\x"_s).has_value());
+}
+
+INSTANTIATE_TEST_SUITE_P(Platforms, FileSystemContract, testing::Values(&make<MemoryWorld>, &make<HostWorld>),
+                         [](const auto &platform) { return platform.index == 0 ? "memory" : "host"; });

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QByteArray>
+
+namespace support {
+
+/// A fresh directory of the host for real files, removed with all that it holds. Names are bytes of the host.
+class ScratchDirectory
+{
+public:
+    /// `name` is the directory's own name below a unique one.
+    explicit ScratchDirectory(const QByteArray &name = "scratch");
+    ~ScratchDirectory();
+    ScratchDirectory(const ScratchDirectory &) = delete;
+    ScratchDirectory &operator=(const ScratchDirectory &) = delete;
+
+    QByteArray path() const { return path_; }
+    QByteArray path(const QByteArray &name) const { return path_ + '/' + name; }
+
+    void makeDirectory(const QByteArray &name) const;
+    void makeFile(const QByteArray &name, const QByteArray &content = "x") const;
+    void makeExecutable(const QByteArray &name, const QByteArray &content) const;
+    void makeLink(const QByteArray &name, const QByteArray &target) const;
+    void makePipe(const QByteArray &name) const;
+    void remove(const QByteArray &name) const;
+
+    QByteArray read(const QByteArray &name) const;
+
+private:
+    QByteArray root_;
+    QByteArray path_;
+};
+
+/// Sets an environment variable while it lives; null removes it.
+class ScopedVariable
+{
+public:
+    ScopedVariable(const char *name, const QByteArray &value);
+    ~ScopedVariable();
+    ScopedVariable(const ScopedVariable &) = delete;
+    ScopedVariable &operator=(const ScopedVariable &) = delete;
+
+private:
+    const char *name_;
+    QByteArray before_;
+};
+
+/// Gives up root's right to read everything while it lives, so that permissions can be tested.
+class WithoutPrivileges
+{
+public:
+    WithoutPrivileges();
+    ~WithoutPrivileges();
+    WithoutPrivileges(const WithoutPrivileges &) = delete;
+    WithoutPrivileges &operator=(const WithoutPrivileges &) = delete;
+};
+
+/// Keeps the process's current directory as it was.
+class KeptDirectory
+{
+public:
+    KeptDirectory();
+    ~KeptDirectory();
+    KeptDirectory(const KeptDirectory &) = delete;
+    KeptDirectory &operator=(const KeptDirectory &) = delete;
+
+private:
+    int descriptor_;
+};
+
+} // namespace support
