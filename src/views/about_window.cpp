@@ -1,0 +1,82 @@
+#include "views/about_window.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace views {
+
+namespace {
+
+constexpr int Escape = 27;
+constexpr int Margin = 24;
+
+// The banner's lines keep their blanks, but not the empty lines around them.
+QString bannerLines(QString banner)
+{
+    banner.remove(u'\r');
+    while (banner.startsWith(u'\n'))
+        banner.remove(0, 1);
+    return banner;
+}
+
+} // namespace
+
+AboutWindow::AboutWindow(EventRunner &events, QWidget *mainWindow)
+    : QDialog(mainWindow), events_(events), about_(events.panel().about)
+{
+    auto *rows = new QVBoxLayout(this);
+    rows->setContentsMargins(Margin, Margin, Margin, Margin);
+    auto *header = new QLabel;
+    header->setTextFormat(Qt::PlainText);
+    rows->addWidget(header);
+    bindings_.follow(about_.lblHeader.Caption,
+                     [this, header] { header->setText(bannerLines(about_.lblHeader.Caption)); });
+    bindings_.follow(about_.Caption, [this] { setWindowTitle(about_.Caption); });
+    bindings_.follow(about_.Visible, [this] { followVisible(); });
+    about_.ToFront = [this] {
+        if (isVisible()) {
+            raise();
+            activateWindow();
+        }
+    };
+    events_.run(about_.Load);
+}
+
+// It appears after the main window where both are shown at once, so that it lies above it.
+void AboutWindow::followVisible()
+{
+    if (!about_.Visible)
+        hide();
+    else
+        QTimer::singleShot(0, this, [this] { setVisible(about_.Visible); });
+}
+
+void AboutWindow::showEvent(QShowEvent *event)
+{
+    events_.run(about_.Activate);
+    adjustSize();
+    QDialog::showEvent(event);
+}
+
+void AboutWindow::closeEvent(QCloseEvent *event)
+{
+    event->ignore();
+    events_.run(about_.Unload);
+}
+
+void AboutWindow::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape)
+        events_.run([this] { about_.KeyPress(Escape); });
+}
+
+void AboutWindow::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        events_.run(about_.Click);
+}
+
+} // namespace views

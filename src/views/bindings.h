@@ -1,0 +1,40 @@
+#pragma once
+
+#include "controls/control.h"
+#include "views/event_runner.h"
+
+#include <QPropertyNotifier>
+
+#include <vector>
+
+class QLabel;
+class QPushButton;
+class QWidget;
+
+namespace views {
+
+/// Ties widgets to controls for as long as it lives: the widget shows the control's values now and whenever
+/// they change.
+class Bindings
+{
+public:
+    /// Calls `update` now and whenever `property` changes.
+    template <typename T>
+    void follow(QProperty<T> &property, const std::function<void()> &update)
+    {
+        update();
+        notifiers_.push_back(property.addNotifier(update));
+    }
+
+    /// Visibility, enabling and tool tip.
+    void bind(QWidget *widget, controls::Control &control);
+
+    void bind(QLabel *widget, controls::Label &label);
+
+    void bind(QPushButton *widget, controls::Button &button, EventRunner &events);
+
+private:
+    std::vector<QPropertyNotifier> notifiers_;
+};
+
+} // namespace views

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QListView>
+
+namespace views {
+
+/// What the lists of the panel share: rows of one height, no editing, and a frame that shows which list has
+/// the focus.
+class ClassicList : public QListView
+{
+    Q_OBJECT
+
+public:
+    explicit ClassicList(QWidget *parent = nullptr);
+
+    QSize minimumSizeHint() const override { return {60, 40}; }
+    QSize sizeHint() const override { return minimumSizeHint(); }
+
+protected:
+    bool event(QEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+};
+
+} // namespace views

@@ -1,0 +1,219 @@
+#include "views/file_list_view.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QTimerEvent>
+
+namespace views {
+
+namespace {
+
+// How long an arrow key must be at rest, in milliseconds, before its row is clicked.
+constexpr int RestTime = 200;
+constexpr int RightButton = 2;
+
+bool isEnter(const QKeyEvent *event)
+{
+    return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+}
+
+// The focus has come to the list itself, not back to its window.
+bool isOwnFocus(const QFocusEvent *event)
+{
+    switch (event->reason()) {
+    case Qt::MouseFocusReason:
+    case Qt::TabFocusReason:
+    case Qt::BacktabFocusReason:
+    case Qt::ShortcutFocusReason:
+    case Qt::OtherFocusReason:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+FileListView::FileListView(controls::FileList &list, EventRunner &events, FileListManners manners,
+                           QWidget *parent)
+    : ClassicList(parent), list_(list), events_(events), manners_(manners)
+{
+    setModel(&model_);
+    // The mouse gives the focus itself, once it knows what was aimed at.
+    setFocusPolicy(Qt::TabFocus);
+    bindings_.bind(this, list);
+    bindings_.follow(list.Names, [this] { showNames(); });
+    bindings_.follow(list.ListIndex, [this] { showSelection(); });
+    events.addHolder([this] { runHeldBack(); });
+}
+
+void FileListView::showNames()
+{
+    const QScopedValueRollback showing(showing_, true);
+    const int scrolled = verticalScrollBar()->value();
+    model_.show(list_.Names);
+    executeDelayedItemsLayout();
+    verticalScrollBar()->setValue(scrolled);
+}
+
+void FileListView::showSelection()
+{
+    const QScopedValueRollback showing(showing_, true);
+    const int row = list_.ListIndex;
+    if (row == currentIndex().row() && selectionModel()->isSelected(currentIndex()) == (row >= 0))
+        return;
+    // Keep the view where it is; rows that the user chooses are in sight already.
+    const int scrolled = verticalScrollBar()->value();
+    if (row < 0)
+        selectionModel()->clear();
+    else
+        selectionModel()->setCurrentIndex(model_.index(row), QItemSelectionModel::ClearAndSelect);
+    verticalScrollBar()->setValue(scrolled);
+}
+
+void FileListView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    ClassicList::currentChanged(current, previous);
+    if (showing_ || !current.isValid())
+        return;
+    list_.ListIndex = current.row();
+    holdBackClick();
+}
+
+void FileListView::focusInEvent(QFocusEvent *event)
+{
+    if (isOwnFocus(event))
+        events_.run(list_.GotFocus);
+    const QScopedValueRollback showing(showing_, true);
+    ClassicList::focusInEvent(event);
+}
+
+void FileListView::keyPressEvent(QKeyEvent *event)
+{
+    if (isEnter(event)) {
+        runHeldBack();
+        events_.run(manners_.choosing ? list_.Click : list_.DblClick);
+        return;
+    }
+    if (manners_.choosing && event->key() == Qt::Key_Escape) {
+        events_.run([this] { list_.MouseUp(RightButton); });
+        return;
+    }
+    if (event->key() == Qt::Key_Space) {
+        if (!manners_.choosing && currentIndex().isValid()) {
+            list_.ListIndex = currentIndex().row();
+            events_.run(list_.Click);
+        }
+        return;
+    }
+    rest_.stop();
+    keyDown_ = true;
+    const bool enters = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
+    if (enters && list_.ListIndex < 0 && list_.ListCount() > 0) {
+        selectByUser(std::max(currentIndex().row(), 0));
+        holdBackClick();
+        return;
+    }
+    ClassicList::keyPressEvent(event);
+}
+
+void FileListView::keyReleaseEvent(QKeyEvent *event)
+{
+    if (!event->isAutoRepeat()) {
+        keyDown_ = false;
+        if (heldBack_)
+            rest_.start(RestTime, this);
+    }
+    ClassicList::keyReleaseEvent(event);
+}
+
+void FileListView::holdBackClick()
+{
+    if (manners_.choosing)
+        return;
+    heldBack_ = true;
+    if (!keyDown_)
+        rest_.start(RestTime, this);
+}
+
+void FileListView::runHeldBack()
+{
+    rest_.stop();
+    if (!heldBack_)
+        return;
+    heldBack_ = false;
+    events_.run(list_.Click);
+}
+
+void FileListView::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() == rest_.timerId())
+        runHeldBack();
+    else
+        ClassicList::timerEvent(event);
+}
+
+void FileListView::mousePressEvent(QMouseEvent *event)
+{
+    press(event, false);
+}
+
+void FileListView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    press(event, true);
+}
+
+void FileListView::press(QMouseEvent *event, bool twice)
+{
+    press_ = Press::None;
+    if (event->button() != Qt::LeftButton)
+        return;
+    // Getting the focus may refresh the list under the pointer: what counts is the name that was aimed at.
+    const bool wasEmpty = list_.ListCount() == 0;
+    const QModelIndex aimed = indexAt(event->position().toPoint());
+    const QString name = aimed.isValid() ? model_.names().at(aimed.row()) : QString();
+    runHeldBack();
+    setFocus(Qt::MouseFocusReason);
+
+    twice_ = twice;
+    if (wasEmpty) {
+        press_ = list_.ListCount() == 0 ? Press::Empty : Press::None;
+    } else if (!name.isEmpty()) {
+        const int row = model_.names().indexOf(name);
+        if (row >= 0) {
+            selectByUser(row);
+            press_ = Press::Row;
+        }
+    } else if (manners_.blankClears) {
+        list_.ListIndex = -1;
+    }
+}
+
+void FileListView::selectByUser(int row)
+{
+    list_.ListIndex = row;
+    const QScopedValueRollback showing(showing_, true);
+    scrollTo(model_.index(row));
+}
+
+void FileListView::mouseMoveEvent(QMouseEvent *)
+{
+    // A row that was pressed stays the chosen one until the button is released.
+}
+
+void FileListView::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::RightButton) {
+        if (list_.MouseUp)
+            events_.run([this] { list_.MouseUp(RightButton); });
+        return;
+    }
+    if (event->button() != Qt::LeftButton || press_ == Press::None)
+        return;
+    press_ = Press::None;
+    events_.run(twice_ ? list_.DblClick : list_.Click);
+}
+
+} // namespace views

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "shell/main_window.h"
+#include "views/bindings.h"
+
+#include <QMainWindow>
+
+class QGridLayout;
+class QPushButton;
+
+namespace views {
+
+class ElidedLabel;
+class FileListView;
+class Menus;
+class SharedPlace;
+
+/// The panel's main window. It shows the main window's state and hands every event on.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(EventRunner &events);
+
+protected:
+    bool event(QEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    QWidget *makeCentre();
+    QLayout *makeWhereAmI();
+    QLayout *makeBrowser();
+    QWidget *makeGraphPlace();
+    QWidget *makeChosen();
+    QLayout *makeButtons();
+    void makeStatusBar();
+    void addList(QGridLayout *grid, int row, int column, FileListView *view, controls::Label &caption);
+    QWidget *addChosen(QGridLayout *grid, int row, int column, const QString &caption,
+                       controls::Label &value);
+    QPushButton *makeButton(controls::Button &button);
+    void bindWindow();
+    void fitFont();
+    bool fits() const;
+    void leaveAccessKeysToMenus();
+
+    EventRunner &events_;
+    shell::frmKinovra &frm_;
+    Bindings bindings_;
+    Menus *menus_;
+    FileListView *datafiles_ = nullptr;
+    QList<QPushButton *> buttons_;
+    bool placing_ = false; ///< the window is sized because its control was
+};
+
+} // namespace views

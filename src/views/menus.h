@@ -1,0 +1,43 @@
+#pragma once
+
+#include "controls/menu_item.h"
+#include "views/bindings.h"
+
+#include <QObject>
+
+class QAction;
+class QMenu;
+class QMenuBar;
+
+namespace views {
+
+/// Closes all open menus, so that a box can be shown.
+void closeMenus();
+
+/// Renders the panel's menu tree in a menu bar.
+class Menus : public QObject
+{
+    Q_OBJECT
+
+public:
+    Menus(QMenuBar *bar, EventRunner &events);
+
+    /// The access keys of the menu bar, in upper case.
+    QString accessKeys() const { return accessKeys_; }
+
+private:
+    void build();
+    void bind(QAction *action, controls::MenuItem &item);
+    void bindMenu(QMenu *menu, controls::MenuItem &item);
+    void opens(QMenu *menu, controls::MenuItem &item);
+    void asks(QMenu *menu, controls::MenuItem &item);
+
+    QMenuBar *bar_;
+    EventRunner &events_;
+    Bindings bindings_;
+    QString accessKeys_;
+    bool passing_ = false;   ///< another menu has just closed: the user passes along the menu bar
+    bool reopening_ = false; ///< a menu opens again after its question
+};
+
+} // namespace views

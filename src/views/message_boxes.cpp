@@ -1,0 +1,130 @@
+#include "views/message_boxes.h"
+
+#include "platform/display_text.h"
+#include "shell/kinovra.h"
+#include "views/menus.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+
+using namespace Qt::StringLiterals;
+
+namespace views {
+
+namespace {
+
+using platform::Answer;
+using platform::Buttons;
+using platform::Icon;
+
+QMessageBox::StandardButtons standardButtons(Buttons buttons)
+{
+    switch (buttons) {
+    case Buttons::OKOnly:
+        return QMessageBox::Ok;
+    case Buttons::OKCancel:
+        return QMessageBox::Ok | QMessageBox::Cancel;
+    case Buttons::YesNo:
+        return QMessageBox::Yes | QMessageBox::No;
+    case Buttons::YesNoCancel:
+        return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    }
+    return QMessageBox::Ok;
+}
+
+QMessageBox::Icon standardIcon(Icon icon)
+{
+    switch (icon) {
+    case Icon::None:
+        return QMessageBox::NoIcon;
+    case Icon::Information:
+        return QMessageBox::Information;
+    case Icon::Exclamation:
+        return QMessageBox::Warning;
+    case Icon::Question:
+        return QMessageBox::Question;
+    case Icon::Critical:
+        return QMessageBox::Critical;
+    }
+    return QMessageBox::NoIcon;
+}
+
+Answer answerOf(int button, Buttons buttons)
+{
+    switch (button) {
+    case QMessageBox::Ok:
+        return platform::OK;
+    case QMessageBox::Yes:
+        return platform::Yes;
+    case QMessageBox::No:
+        return platform::No;
+    case QMessageBox::Cancel:
+        return platform::Cancel;
+    default:
+        break;
+    }
+    // The box has gone without an answer.
+    if (buttons == Buttons::OKOnly)
+        return platform::OK;
+    return buttons == Buttons::YesNo ? platform::No : platform::Cancel;
+}
+
+// The lines stay lines; within them nothing can disguise itself.
+QString shownLines(const QString &text)
+{
+    QStringList lines = text.split(u'\n');
+    for (QString &line : lines)
+        line = platform::displayText(line);
+    return lines.join(u'\n');
+}
+
+// "Text|*.txt|All|*.*" as the list of filters that the desktop's dialog wants; without "|" it is text and
+// pattern.
+QStringList nameFilters(const QString &filter)
+{
+    const QStringList parts = filter.split(u'|');
+    if (parts.size() < 2)
+        return {QString(filter).replace(u';', u' ')};
+    QStringList result;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        const QString text = QString(parts[i]).section(u" ("_s, 0, 0).replace(u"&&"_s, u"&"_s);
+        result.append(text + u" ("_s + QString(parts[i + 1]).replace(u';', u' ') + u')');
+    }
+    return result;
+}
+
+bool isPattern(const QString &fileName)
+{
+    return fileName.contains(u'*') || fileName.contains(u'?');
+}
+
+} // namespace
+
+Answer MessageBoxes::message(const platform::MessageBox &box)
+{
+    closeMenus();
+    QMessageBox window(standardIcon(box.icon),
+                       box.title.isEmpty() ? QString(QLatin1String(shell::ApplicationTitle)) : box.title,
+                       shownLines(box.text), standardButtons(box.buttons), QApplication::activeWindow());
+    window.setTextFormat(Qt::PlainText);
+    return answerOf(window.exec(), box.buttons);
+}
+
+std::optional<QString> MessageBoxes::openFile(const platform::OpenFileRequest &request)
+{
+    closeMenus();
+    QFileDialog dialog(QApplication::activeWindow(), request.title,
+                       paths_.hostForm(request.initialDirectory));
+    dialog.setFileMode(request.mustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    const QStringList filters = nameFilters(request.filter);
+    dialog.setNameFilters(filters);
+    dialog.selectNameFilter(filters.value(request.filterIndex - 1));
+    if (!request.fileName.isEmpty() && !isPattern(request.fileName))
+        dialog.selectFile(request.fileName);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    return paths_.panelForm(dialog.selectedFiles().constFirst());
+}
+
+} // namespace views

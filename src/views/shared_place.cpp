@@ -1,0 +1,37 @@
+#include "views/shared_place.h"
+
+#include <QEvent>
+#include <QTimer>
+
+namespace views {
+
+void SharedPlace::share(QWidget *widget)
+{
+    widgets_.append(widget);
+    widget->installEventFilter(this);
+}
+
+bool SharedPlace::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isHidden = event->type() == QEvent::HideToParent;
+    if (event->type() == QEvent::FocusOut && !static_cast<QWidget *>(watched)->isVisibleTo(this))
+        focusLost_ = true;
+    if (isHidden && (focusLost_ || watched == window()->focusWidget())) {
+        focusLost_ = false;
+        // Once the others have appeared.
+        QTimer::singleShot(0, this, [this] { passFocusOn(); });
+    }
+    return false;
+}
+
+void SharedPlace::passFocusOn()
+{
+    for (QWidget *widget : std::as_const(widgets_)) {
+        if (widget->isVisibleTo(this) && widget->isEnabled() && widget->focusPolicy() != Qt::NoFocus) {
+            widget->setFocus(Qt::OtherFocusReason);
+            return;
+        }
+    }
+}
+
+} // namespace views
