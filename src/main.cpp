@@ -23,6 +23,13 @@ QByteArray winePrefix()
     return chosen.isEmpty() ? QFile::encodeName(QDir::homePath()) + "/.wine" : chosen;
 }
 
+// The user's configuration directory, unless KINOVRA_SETTINGS names another one.
+QString settingsDirectory()
+{
+    const QString chosen = qEnvironmentVariable("KINOVRA_SETTINGS");
+    return chosen.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) : chosen;
+}
+
 QList<QByteArray> argumentsBehindName(int argc, char *argv[])
 {
     QList<QByteArray> arguments;
@@ -41,8 +48,7 @@ int main(int argc, char *argv[])
     QApplication::setQuitOnLastWindowClosed(false);
 
     platform::host::LinuxFileSystem files(winePrefix());
-    platform::host::IniSettings settings(
-        QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+    platform::host::IniSettings settings(settingsDirectory());
     platform::host::LinuxEnvironment environment(argumentsBehindName(argc, argv), files);
     platform::host::LinuxPrograms programs(files, QFile::encodeName(QApplication::applicationDirPath())
                                                       + "/kinovra-console");

@@ -28,10 +28,10 @@ struct MessageBox
 /// here.
 struct OpenFileRequest
 {
-    QString initialDirectory;
-    QString fileName; ///< proposed name, or a pattern such as "*.exe"
-    QString filter;   ///< "Text|*.txt|All|*.*"; without "|" it is both text and pattern
-    QString title;
+    QString initialDirectory = {};
+    QString fileName = {}; ///< proposed name, or a pattern such as "*.exe"
+    QString filter = {};   ///< "Text|*.txt|All|*.*"; without "|" it is both text and pattern
+    QString title = {};
     int filterIndex = 1; ///< of the pairs, from 1
     bool mustExist = false;
     bool hideReadOnly = false;

@@ -92,9 +92,11 @@ QLayout *MainWindow::makeWhereAmI()
     drives->setAccessibleName(u"Drive"_s);
     drives->setFixedWidth(DirectoryColumn);
     auto *path = makeValue(Qt::ElideMiddle);
+    const QString caption = u"Current path:"_s;
     bindings_.bind(path, frm_.lblPath);
+    path->setAccessibleName(caption);
     row->addWidget(drives);
-    row->addWidget(makeCaption(u"Current path:"_s));
+    row->addWidget(makeCaption(caption));
     row->addWidget(path, 1);
     return row;
 }

@@ -1,0 +1,117 @@
+#include "printing.h"
+#include "view_fixture.h"
+
+#include <QComboBox>
+#include <QTest>
+#include <QWheelEvent>
+
+using namespace Qt::StringLiterals;
+
+class DirectoryViews : public support::ViewFixture
+{
+protected:
+    void SetUp() override
+    {
+        machine.files.addDirectory(u"C:\\DATA\\Sub"_s);
+        machine.files.addDrive(u"d: [stick]"_s);
+        addFile(u"D:\\RUN5.DG"_s);
+        show();
+    }
+
+    QListView *directories() const { return list(u"Directory"_s); }
+    QComboBox *drives() const { return window().findChild<QComboBox *>(); }
+};
+
+TEST_F(DirectoryViews, show_the_rows)
+{
+    const auto *model = directories()->model();
+    ASSERT_EQ(model->rowCount(), 3);
+    EXPECT_EQ(model->index(0, 0).data().toString(), u"c:\\"_s);
+    EXPECT_EQ(model->index(1, 0).data().toString(), u"DATA"_s);
+    EXPECT_EQ(model->index(2, 0).data().toString(), u"Sub"_s);
+    EXPECT_EQ(directories()->currentIndex().row(), 1);
+}
+
+TEST_F(DirectoryViews, highlight_on_one_click)
+{
+    clickRow(directories(), 2);
+    EXPECT_EQ(kinovra.DataDir, u"C:\\DATA"_s);
+    EXPECT_EQ(frm.dirSelect.ListIndex.value(), 2);
+}
+
+TEST_F(DirectoryViews, open_on_a_double_click)
+{
+    doubleClickAt(directories()->viewport(), middleOf(directories(), 2));
+    EXPECT_EQ(kinovra.DataDir, u"C:\\DATA\\Sub"_s);
+    EXPECT_EQ(directories()->currentIndex().row(), 2);
+    EXPECT_EQ(directories()->model()->rowCount(), 3);
+}
+
+TEST_F(DirectoryViews, open_on_enter)
+{
+    directories()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(directories(), Qt::Key_Up);
+    EXPECT_EQ(kinovra.DataDir, u"C:\\DATA"_s);
+    QTest::keyClick(directories(), Qt::Key_Return);
+    EXPECT_EQ(kinovra.DataDir, u"c: [data]"_s);
+}
+
+TEST_F(DirectoryViews, do_not_open_the_open_directory_again)
+{
+    kinovra.CurrentTrial = u"RUN1"_s;
+    doubleClickAt(directories()->viewport(), middleOf(directories(), 1));
+    EXPECT_EQ(kinovra.CurrentTrial, u"RUN1"_s);
+}
+
+TEST_F(DirectoryViews, show_the_drives)
+{
+    ASSERT_EQ(drives()->count(), 2);
+    EXPECT_EQ(drives()->itemText(1), u"d: [stick]"_s);
+    EXPECT_EQ(drives()->currentText(), u"c: [data]"_s);
+    EXPECT_EQ(drives()->accessibleName(), u"Drive"_s);
+}
+
+TEST_F(DirectoryViews, act_when_a_drive_is_chosen)
+{
+    Q_EMIT drives()->activated(1);
+    EXPECT_EQ(kinovra.DataDir, u"d: [stick]"_s);
+    EXPECT_EQ(drives()->currentText(), u"d: [stick]"_s);
+}
+
+TEST_F(DirectoryViews, do_nothing_when_the_same_drive_is_chosen)
+{
+    kinovra.CurrentTrial = u"RUN1"_s;
+    Q_EMIT drives()->activated(0);
+    EXPECT_EQ(kinovra.CurrentTrial, u"RUN1"_s);
+}
+
+TEST_F(DirectoryViews, ignore_the_wheel_over_the_drives)
+{
+    kinovra.CurrentTrial = u"RUN1"_s;
+    const QPointF position(5, 5);
+    for (int delta : {-120, 120}) {
+        QWheelEvent wheel(position, drives()->mapToGlobal(position), QPoint(), QPoint(0, delta), Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(drives(), &wheel);
+    }
+    EXPECT_EQ(drives()->currentText(), u"c: [data]"_s);
+    EXPECT_EQ(kinovra.CurrentTrial, u"RUN1"_s);
+}
+
+TEST_F(DirectoryViews, open_the_drives_instead_of_stepping_through_them)
+{
+    drives()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(drives(), Qt::Key_Down);
+    EXPECT_EQ(drives()->currentText(), u"c: [data]"_s);
+    EXPECT_EQ(kinovra.DataDir, u"C:\\DATA"_s);
+    drives()->hidePopup();
+}
+
+TEST_F(DirectoryViews, show_the_old_drive_again_after_an_error)
+{
+    machine.files.removeDrive(u'D');
+    drives()->setCurrentIndex(1);
+    Q_EMIT drives()->activated(1);
+    EXPECT_EQ(messages(), QStringList{u"There was a drive problem.\nError was: Device unavailable"_s});
+    EXPECT_EQ(drives()->currentText(), u"c: [data]"_s);
+}

@@ -1,0 +1,335 @@
+#include "printing.h"
+#include "view_fixture.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using support::waitUntil;
+
+class MainWindowView : public support::ViewFixture
+{
+protected:
+    void SetUp() override
+    {
+        addData({"walk1.dg", "one.cfb", "two.cfb"});
+        show();
+    }
+
+    QLabel *value(const QString &caption) const
+    {
+        const auto labels = window().findChildren<QLabel *>();
+        for (QLabel *label : labels) {
+            if (label->accessibleName() == caption)
+                return label;
+        }
+        return nullptr;
+    }
+
+    void pressAndRelease(Qt::Key key, Qt::KeyboardModifiers modifiers)
+    {
+        QTest::keyPress(window().windowHandle(), key, modifiers);
+        QTest::keyRelease(window().windowHandle(), key, modifiers);
+        settle();
+    }
+};
+
+TEST_F(MainWindowView, has_its_size)
+{
+    EXPECT_EQ(window().width(), 673);
+    EXPECT_GE(window().height(), 487);
+    EXPECT_EQ(window().minimumWidth(), 673);
+    EXPECT_EQ(window().maximumWidth(), 673);
+    EXPECT_EQ(window().windowTitle(), u"Kinovra Motion Analysis System"_s);
+}
+
+TEST_F(MainWindowView, gives_the_directory_list_what_height_is_left)
+{
+    window().resize(673, 700);
+    settle();
+    EXPECT_EQ(frm.Height.value(), 10500);
+    EXPECT_EQ(list(u"Directory"_s)->height(), (10500 - 3800 + 7) / 15);
+    window().resize(673, 487);
+    settle();
+    EXPECT_EQ(frm.dirSelect.Height.value(), frm.Height - 3800);
+    EXPECT_EQ(window().height(), 487);
+}
+
+TEST_F(MainWindowView, shows_the_state)
+{
+    click(frm.filDatafiles, u"walk1.dg"_s);
+    EXPECT_EQ(value(u"Current trial:"_s)->text(), u"WALK1.dg"_s);
+    EXPECT_EQ(value(u"Title:"_s)->text(), u"x "_s);
+    EXPECT_EQ(value(u"Current path:"_s)->text(), u"c:\\data"_s);
+    EXPECT_EQ(value(u"GRA(ph) file:"_s)->text(), u"RUN.GRA"_s);
+    EXPECT_EQ(value(u"Listing to:"_s)->text(), u"DISK FILE"_s);
+    EXPECT_EQ(value(u"Graphics to:"_s)->text(), u"SCREEN"_s);
+    frm.lblCommand.Caption = u"c:\\kinovra\\kinemati.exe walk1"_s;
+    EXPECT_EQ(value(u"Command line:"_s)->text(), u"c:\\kinovra\\kinemati.exe walk1"_s);
+}
+
+TEST_F(MainWindowView, shows_text_as_text)
+{
+    frm.lblTitle.Caption = u"<b>bold</b> & \u001B[31m"_s;
+    EXPECT_EQ(value(u"Title:"_s)->text(), u"<b>bold</b> & \u241B[31m"_s);
+    EXPECT_EQ(value(u"Title:"_s)->textFormat(), Qt::PlainText);
+}
+
+TEST_F(MainWindowView, is_not_widened_by_long_text)
+{
+    frm.lblTitle.Caption = QString(65536, u'W');
+    frm.lblPath.Caption = QString(30000, u'W');
+    frm.StatusBar1.Panel1 = QString(5000, u'W');
+    settle();
+    EXPECT_EQ(window().width(), 673);
+    EXPECT_LE(value(u"Title:"_s)->geometry().right(), window().width());
+}
+
+TEST_F(MainWindowView, speaks_in_its_status_bar)
+{
+    frm.StatusBar1.Panel1 = u"Kinemati.out is ready."_s;
+    const auto labels = window().statusBar()->findChildren<QLabel *>();
+    QStringList texts;
+    for (const QLabel *label : labels)
+        texts.append(label->text());
+    EXPECT_EQ(texts, (QStringList{u"Kinemati.out is ready."_s, u"Version 1.00 (build 001)"_s}));
+}
+
+TEST_F(MainWindowView, tells_assistive_technology_what_everything_is)
+{
+    for (const char *name : {"Data files", "Models (.CFB)", "Binary files", "Graph Types (.GRA)",
+                             "Graphs (.PLT)", "Output files", "Directory"}) {
+        ASSERT_NE(list(QLatin1String(name)), nullptr) << name;
+    }
+    for (const char *name :
+         {"Edit .GRA File", "Select Type of  Graph", "Create Graph(s)", "Force Plate Analysis", "Guide",
+          "Skelvo", "Ondex2", ".CFB Editor", "Refresh File Lists", "Exit", "Manual"}) {
+        ASSERT_NE(button(QLatin1String(name)), nullptr) << name;
+    }
+    QAccessibleInterface *datafiles = QAccessible::queryAccessibleInterface(list(u"Data files"_s));
+    EXPECT_EQ(datafiles->text(QAccessible::Name), u"Data files"_s);
+    EXPECT_EQ(datafiles->role(), QAccessible::List);
+    EXPECT_EQ(datafiles->childCount(), 1);
+    EXPECT_EQ(datafiles->child(0)->text(QAccessible::Name), u"walk1.dg"_s);
+}
+
+TEST_F(MainWindowView, has_tool_tips)
+{
+    EXPECT_EQ(list(u"Data files"_s)->toolTip(), u"Click to select motion data"_s);
+    EXPECT_EQ(list(u"Directory"_s)->toolTip(), u"Select the data directory"_s);
+    EXPECT_EQ(button(u"Exit"_s)->toolTip(), u"Click to exit"_s);
+}
+
+TEST_F(MainWindowView, lets_everything_be_reached_by_tab)
+{
+    list(u"Data files"_s)->setFocus();
+    QStringList reached;
+    for (int i = 0; i < 40; ++i) {
+        const QString name = QApplication::focusWidget()->accessibleName();
+        if (reached.contains(name))
+            break;
+        reached.append(name);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(reached, (QStringList{u"Data files"_s, u"Models (.CFB)"_s, u"Binary files"_s, u"Output files"_s,
+                                    u"Graphs (.PLT)"_s, u"Select Type of  Graph"_s, u"Create Graph(s)"_s,
+                                    u"Edit .GRA File"_s, u"Refresh File Lists"_s, u".CFB Editor"_s,
+                                    u"Force Plate Analysis"_s, u"Skelvo"_s, u"Ondex2"_s, u"Exit"_s,
+                                    u"Drive"_s, u"Directory"_s}));
+}
+
+TEST_F(MainWindowView, begins_with_the_focus_on_the_data_files)
+{
+    EXPECT_TRUE(list(u"Data files"_s)->hasFocus());
+}
+
+TEST_F(MainWindowView, leaves_shared_access_keys_to_the_menus)
+{
+    // File, Data, Model, Programs, Average, Animate, Graph, View, Settings, Manuals, Help.
+    for (const char *name :
+         {"Select Type of  Graph", "Force Plate Analysis", "Guide", "Skelvo", "Refresh File Lists"})
+        EXPECT_TRUE(button(QLatin1String(name))->shortcut().isEmpty()) << name;
+    EXPECT_EQ(button(u"Exit"_s)->shortcut(), QKeySequence(Qt::ALT | Qt::Key_X));
+    EXPECT_EQ(button(u"Create Graph(s)"_s)->shortcut(), QKeySequence(Qt::ALT | Qt::Key_C));
+    EXPECT_EQ(button(u"Manual"_s)->shortcut(), QKeySequence(Qt::ALT | Qt::Key_U));
+    EXPECT_EQ(button(u"Edit .GRA File"_s)->shortcut(), QKeySequence(Qt::ALT | Qt::Key_E));
+}
+
+TEST_F(MainWindowView, presses_buttons_by_keyboard)
+{
+    for (Qt::Key key : {Qt::Key_Space, Qt::Key_Return}) {
+        forget();
+        button(u"Skelvo"_s)->setFocus();
+        QTest::keyClick(button(u"Skelvo"_s), key);
+        EXPECT_EQ(machine.programs.started.size(), 1U) << key;
+    }
+}
+
+TEST_F(MainWindowView, follows_its_controls)
+{
+    frm.cmdSkelvo.Enabled = false;
+    EXPECT_FALSE(button(u"Skelvo"_s)->isEnabled());
+    frm.cmdSkelvo.Visible = false;
+    EXPECT_FALSE(button(u"Skelvo"_s)->isVisible());
+    frm.Caption = u"Another"_s;
+    EXPECT_EQ(window().windowTitle(), u"Another"_s);
+}
+
+TEST_F(MainWindowView, shows_the_about_window_on_f1_and_question_mark)
+{
+    pressAndRelease(Qt::Key_F1, Qt::NoModifier);
+    EXPECT_TRUE(panel.about.Visible);
+    EXPECT_TRUE(waitUntil([this] { return windows->aboutWindow().isVisible(); }));
+    panel.about.Visible = false;
+    pressAndRelease(Qt::Key_Question, Qt::ShiftModifier);
+    EXPECT_TRUE(panel.about.Visible);
+    panel.about.Visible = false;
+    pressAndRelease(Qt::Key_Help, Qt::NoModifier);
+    EXPECT_TRUE(panel.about.Visible);
+    panel.about.Visible = false;
+    pressAndRelease(Qt::Key_Slash, Qt::ShiftModifier);
+    EXPECT_TRUE(panel.about.Visible);
+    panel.about.Visible = false;
+    pressAndRelease(Qt::Key_Slash, Qt::NoModifier);
+    EXPECT_FALSE(panel.about.Visible);
+}
+
+TEST_F(MainWindowView, refreshes_on_ctrl_r_with_the_modifiers_of_the_press)
+{
+    addData({"new.dg"});
+    pressAndRelease(Qt::Key_R, Qt::NoModifier);
+    EXPECT_EQ(frm.filDatafiles.ListCount(), 1);
+    // Ctrl is released first.
+    QTest::keyPress(window().windowHandle(), Qt::Key_R, Qt::ControlModifier);
+    QTest::keyRelease(window().windowHandle(), Qt::Key_R, Qt::NoModifier);
+    settle();
+    EXPECT_EQ(frm.filDatafiles.ListCount(), 2);
+    // Ctrl is pressed too late.
+    addData({"newer.dg"});
+    QTest::keyPress(window().windowHandle(), Qt::Key_R, Qt::NoModifier);
+    QTest::keyRelease(window().windowHandle(), Qt::Key_R, Qt::ControlModifier);
+    settle();
+    EXPECT_EQ(frm.filDatafiles.ListCount(), 2);
+}
+
+TEST_F(MainWindowView, ignores_keys_that_were_pressed_elsewhere)
+{
+    QTest::keyRelease(window().windowHandle(), Qt::Key_F1, Qt::NoModifier);
+    settle();
+    EXPECT_FALSE(panel.about.Visible);
+}
+
+TEST_F(MainWindowView, shows_the_about_window_on_a_double_click_on_its_background)
+{
+    QWidget *centre = window().centralWidget();
+    const QPoint margin(2, centre->height() / 2);
+    ASSERT_EQ(centre->childAt(margin), nullptr);
+    QTest::mouseDClick(centre, Qt::LeftButton, Qt::NoModifier, margin);
+    EXPECT_TRUE(panel.about.Visible);
+    panel.about.Visible = false;
+    QTest::mouseDClick(value(u"Title:"_s), Qt::LeftButton);
+    QTest::mouseDClick(window().statusBar(), Qt::LeftButton);
+    EXPECT_FALSE(panel.about.Visible);
+}
+
+TEST_F(MainWindowView, unloads_when_it_is_closed)
+{
+    window().close();
+    EXPECT_TRUE(machine.environment.ended);
+    EXPECT_TRUE(panel.unloading);
+    EXPECT_TRUE(machine.settings.written.empty());
+}
+
+TEST_F(MainWindowView, survives_everything_that_is_clicked_after_it_was_closed)
+{
+    window().close();
+    for (QPushButton *candidate : window().findChildren<QPushButton *>())
+        candidate->click();
+    clickRow(list(u"Data files"_s), 0);
+    EXPECT_TRUE(machine.programs.started.empty());
+}
+
+TEST_F(MainWindowView, is_activated)
+{
+    frm.KeyPreview = false;
+    QEvent activation(QEvent::WindowActivate);
+    QCoreApplication::sendEvent(&window(), &activation);
+    EXPECT_TRUE(frm.KeyPreview);
+}
+
+TEST_F(MainWindowView, fits_its_captions_at_any_font_of_the_desktop)
+{
+    const QFont before = QApplication::font();
+    for (double size : {7.0, 9.0, 11.0, 14.0, 20.0}) {
+        QFont font = before;
+        font.setPointSizeF(size);
+        QApplication::setFont(font);
+        windows = nullptr;
+        windows = std::make_unique<views::PanelWindows>(panel);
+        panel.frm.Visible = true;
+        window().resize(673, 487);
+        settle();
+        EXPECT_EQ(window().width(), 673) << size;
+        EXPECT_EQ(window().height(), 487) << size;
+        for (const QPushButton *candidate : window().findChildren<QPushButton *>()) {
+            if (candidate->isVisible()) {
+                EXPECT_GE(candidate->width(), candidate->sizeHint().width() - 8)
+                    << size << ' ' << candidate->text().toStdString();
+                EXPECT_GE(candidate->height(), candidate->fontMetrics().height()) << size;
+            }
+        }
+        EXPECT_LE(window().menuBar()->sizeHint().width(), 673) << size;
+        // Nothing overlaps: the last button ends above the status bar.
+        const QPushButton *last = button(u"Exit"_s);
+        EXPECT_LE(last->mapTo(&window(), QPoint(0, last->height())).y(), window().statusBar()->y()) << size;
+    }
+    QApplication::setFont(before);
+}
+
+class AboutWindowView : public support::ViewFixture
+{
+protected:
+    void SetUp() override
+    {
+        show();
+        panel.about.Visible = true;
+        ASSERT_TRUE(waitUntil([this] { return about().isVisible(); }));
+    }
+
+    views::AboutWindow &about() const { return windows->aboutWindow(); }
+};
+
+TEST_F(AboutWindowView, shows_the_banner)
+{
+    EXPECT_EQ(about().windowTitle(), u"About Kinovra Motion Analysis System"_s);
+    EXPECT_TRUE(
+        about().findChild<QLabel *>()->text().startsWith(u"     KvWin98, version 1.00 (build 001)\n\n"_s));
+    EXPECT_FALSE(about().isModal());
+}
+
+TEST_F(AboutWindowView, goes_away_on_esc_and_nothing_else_happens)
+{
+    QTest::keyClick(&about(), Qt::Key_A);
+    EXPECT_TRUE(panel.about.Visible);
+    QTest::keyClick(&about(), Qt::Key_Escape);
+    EXPECT_FALSE(panel.about.Visible);
+    EXPECT_FALSE(about().isVisible());
+    EXPECT_TRUE(window().isVisible());
+    EXPECT_FALSE(machine.environment.ended);
+}
+
+TEST_F(AboutWindowView, goes_away_on_a_click_or_when_it_is_closed)
+{
+    QTest::mouseClick(&about(), Qt::LeftButton);
+    EXPECT_FALSE(panel.about.Visible);
+    panel.about.Visible = true;
+    ASSERT_TRUE(waitUntil([this] { return about().isVisible(); }));
+    about().close();
+    EXPECT_FALSE(panel.about.Visible);
+    EXPECT_FALSE(about().isVisible());
+}

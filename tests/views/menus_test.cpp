@@ -1,0 +1,164 @@
+#include "printing.h"
+#include "shell/menu_tree.h"
+#include "view_fixture.h"
+#include "views/menus.h"
+
+#include <QMenu>
+#include <QMenuBar>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using support::waitUntil;
+
+class MenuViews : public support::ViewFixture
+{
+protected:
+    void SetUp() override
+    {
+        addData({"walk1.dg", "walk1.cfb", "walk1.cn", "run1.cfb"});
+        show();
+    }
+
+    QMenuBar *bar() const { return window().menuBar(); }
+
+    QMenu *menu(const QString &caption) const
+    {
+        const auto menus = window().findChildren<QMenu *>();
+        for (QMenu *candidate : menus) {
+            if (candidate->title() == caption)
+                return candidate;
+        }
+        return nullptr;
+    }
+
+    static QAction *action(const QMenu *menu, const QString &caption)
+    {
+        const auto actions = menu->actions();
+        for (QAction *candidate : actions) {
+            if (candidate->text() == caption)
+                return candidate;
+        }
+        return nullptr;
+    }
+
+    void openFromBar(const QString &caption)
+    {
+        bar()->setActiveAction(menu(caption)->menuAction());
+        settle();
+    }
+
+    // Every entry of a menu, a line each, as deep as it lies.
+    static void render(const QList<QAction *> &actions, int depth, QStringList &lines)
+    {
+        for (const QAction *entry : actions) {
+            lines.append(QString(depth, u' ') + (entry->isSeparator() ? u"-"_s : entry->text()));
+            if (entry->menu())
+                render(entry->menu()->actions(), depth + 1, lines);
+        }
+    }
+};
+
+TEST_F(MenuViews, render_the_whole_tree)
+{
+    QStringList expected;
+    for (const shell::MenuRow &row : shell::menuTree())
+        expected.append(QString(row.depth, u' ') + (row.isSeparator() ? u"-"_s : row.caption));
+    QStringList lines;
+    render(bar()->actions(), 0, lines);
+    EXPECT_EQ(lines, expected);
+}
+
+TEST_F(MenuViews, follow_the_items)
+{
+    QAction *kinematics = action(menu(u"&Programs"_s), u"&Kinematics"_s);
+    frm.mnuProg[3].Enabled = false;
+    EXPECT_FALSE(kinematics->isEnabled());
+    frm.mnuProg[3].Enabled = true;
+    EXPECT_TRUE(kinematics->isEnabled());
+    frm.mnuProg[3].Checked = true;
+    EXPECT_TRUE(kinematics->isChecked());
+    frm.mnuProg[3].Checked = false;
+    EXPECT_FALSE(kinematics->isChecked());
+    frm.mnuProg[3].Visible = false;
+    EXPECT_FALSE(kinematics->isVisible());
+}
+
+TEST_F(MenuViews, run_the_items)
+{
+    action(menu(u"&User level..."_s), u"Expert"_s)->trigger();
+    EXPECT_EQ(kinovra.UserLevel, 1);
+}
+
+TEST_F(MenuViews, show_the_commands_marks_and_not_their_own)
+{
+    QAction *novice = action(menu(u"&User level..."_s), u"Novice"_s);
+    novice->trigger();
+    EXPECT_TRUE(novice->isChecked());
+    novice->trigger();
+    EXPECT_TRUE(novice->isChecked());
+    QAction *kinematics = action(menu(u"&Programs"_s), u"&Kinematics"_s);
+    frm.mnuProg[3].Checked = true;
+    machine.dialogs.answers = {platform::No};
+    kinematics->trigger();
+    EXPECT_TRUE(kinematics->isChecked());
+}
+
+TEST_F(MenuViews, set_their_states_when_they_open)
+{
+    click(frm.filDatafiles, u"walk1.dg"_s);
+    openFromBar(u"&Programs"_s);
+    EXPECT_TRUE(menu(u"&Programs"_s)->isVisible());
+    EXPECT_TRUE(frm.mnuProg[3].Enabled);
+    EXPECT_FALSE(frm.mnuProg[4].Enabled);
+    EXPECT_TRUE(messages().isEmpty());
+}
+
+TEST_F(MenuViews, ask_with_all_menus_closed_and_open_again_afterwards)
+{
+    machine.files.remove(u"C:\\DATA\\walk1.cfb"_s);
+    machine.files.remove(u"C:\\DATA\\run1.cfb"_s);
+    click(frm.cmdRefresh);
+    bool menuOpen = true;
+    machine.dialogs.whileShown = [&](const platform::MessageBox &) {
+        menuOpen = QApplication::activePopupWidget() != nullptr;
+    };
+    machine.dialogs.answers = {platform::No};
+    openFromBar(u"&Programs"_s);
+    EXPECT_TRUE(waitUntil([this] { return messages().size() == 1; }));
+    settle();
+    EXPECT_FALSE(menuOpen);
+    EXPECT_TRUE(menu(u"&Programs"_s)->isVisible());
+    EXPECT_EQ(messages().size(), 1);
+}
+
+TEST_F(MenuViews, do_not_ask_a_user_who_passes_along)
+{
+    machine.files.remove(u"C:\\DATA\\walk1.cfb"_s);
+    machine.files.remove(u"C:\\DATA\\run1.cfb"_s);
+    click(frm.cmdRefresh);
+    openFromBar(u"&Model"_s);
+    ASSERT_TRUE(menu(u"&Model"_s)->isVisible());
+    QTest::keyClick(menu(u"&Model"_s), Qt::Key_Right);
+    settle();
+    EXPECT_TRUE(menu(u"&Programs"_s)->isVisible());
+    EXPECT_TRUE(messages().isEmpty());
+}
+
+TEST_F(MenuViews, run_a_held_back_click_before_they_open)
+{
+    QListView *datafiles = list(u"Data files"_s);
+    datafiles->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(datafiles, Qt::Key_Down);
+    EXPECT_EQ(kinovra.CurrentTrial, QString());
+    openFromBar(u"&Programs"_s);
+    EXPECT_EQ(kinovra.CurrentTrial, u"walk1"_s);
+    EXPECT_TRUE(frm.mnuProg[3].Enabled);
+}
+
+TEST_F(MenuViews, are_closed_before_a_box_is_shown)
+{
+    openFromBar(u"&Model"_s);
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    views::closeMenus();
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
