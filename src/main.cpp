@@ -27,7 +27,8 @@ QByteArray winePrefix()
 QString settingsDirectory()
 {
     const QString chosen = qEnvironmentVariable("KINOVRA_SETTINGS");
-    return chosen.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) : chosen;
+    return chosen.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
+                            : chosen;
 }
 
 QList<QByteArray> argumentsBehindName(int argc, char *argv[])

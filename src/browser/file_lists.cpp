@@ -106,7 +106,7 @@ void cmdRefresh_Click(Panel &panel)
     refreshDataDirectory(panel);
     refresh(panel, {&frm.filGraFiles});
     frm.drvDrives.refresh(platform.files.drives());
-    platform.clock.letPendingEventsRun();
+    shell::letPendingEventsRun(panel);
 }
 
 void filGraFiles_Click(Panel &panel)

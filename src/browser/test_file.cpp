@@ -10,7 +10,7 @@ namespace browser {
 
 qint16 TestFile(Panel &panel, const QString &path, const QString &file, qint16 showMsg)
 {
-    const QString name = platform::UCase(path.isEmpty() ? file : path + u'\\' + file);
+    const QString name = path.isEmpty() ? platform::UCase(file) : platform::UCasePath(path, file);
     const qint16 error = panel.platform.files.testReading(name);
     if (error != 0 && showMsg != Silent) {
         shell::MsgBox(panel, {u"Error opening file: \"%1\"  (%2)"_s.arg(name, QString::number(error))

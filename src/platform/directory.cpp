@@ -1,6 +1,5 @@
 #include "platform/directory.h"
 
-#include "platform/file_pattern.h"
 #include "platform/letter_case.h"
 
 #include <algorithm>
@@ -9,8 +8,8 @@ namespace platform {
 
 namespace {
 
-/// The first eight characters in upper case as one number whose order is theirs; ties are settled by whole
-/// names.
+/// The first sixteen characters in upper case as two numbers whose order is theirs, for names in ASCII;
+/// whatever lies beyond ASCII comes behind it. Names that share a key are settled by whole names.
 struct SortKey
 {
     quint64 high;
@@ -18,11 +17,14 @@ struct SortKey
     quint32 entry;
 };
 
-quint64 fourUnits(QStringView name, qsizetype from)
+quint64 eightUnits(QStringView name, qsizetype from)
 {
+    constexpr quint64 BeyondAscii = 0xFF;
     quint64 key = 0;
-    for (qsizetype i = from; i < from + 4; ++i)
-        key = (key << 16) | (i < name.size() ? upperCase(name[i].unicode()) : 0U);
+    for (qsizetype i = from; i < from + 8; ++i) {
+        const char16_t unit = i < name.size() ? name[i].unicode() : u'\0';
+        key = (key << 8U) | (unit < 0x80 ? upperCase(unit) : BeyondAscii);
+    }
     return key;
 }
 
@@ -87,7 +89,7 @@ void FileNames::sort() const
     keys.reserve(data_->entries.size());
     for (quint32 entry : data_->entries) {
         const QStringView name = directory.nameOf(entry);
-        keys.push_back({fourUnits(name, 0), fourUnits(name, 4), entry});
+        keys.push_back({eightUnits(name, 0), eightUnits(name, 8), entry});
     }
     std::sort(keys.begin(), keys.end(), [&directory](const SortKey &a, const SortKey &b) {
         if (a.high != b.high)
@@ -110,33 +112,52 @@ std::shared_ptr<Directory> Directory::create(const QString &path)
     return directory;
 }
 
-void Directory::reserve(qsizetype count)
-{
-    entries_.reserve(static_cast<size_t>(count));
-}
-
 void Directory::add(QStringView name, Kind kind, bool hidden)
 {
     const auto offset = static_cast<quint32>(text_.size());
-    const qsizetype dot = name.lastIndexOf(u'.');
-    const auto extension = static_cast<quint32>(dot < 0 ? name.size() : dot + 1);
     text_.append(name.utf16(), static_cast<size_t>(name.size()));
-    entries_.push_back({offset, offset + extension, static_cast<quint16>(name.size()), kind, hidden});
+    finish(offset, kind, hidden);
+}
+
+void Directory::addAscii(QByteArrayView name, Kind kind, bool hidden)
+{
+    const auto offset = static_cast<quint32>(text_.size());
+    text_.resize(offset + static_cast<size_t>(name.size()));
+    std::copy(name.begin(), name.end(), text_.begin() + offset);
+    finish(offset, kind, hidden);
+}
+
+// The name has been appended to the text, from `offset` on.
+void Directory::finish(quint32 offset, Kind kind, bool hidden)
+{
+    const auto length = static_cast<quint16>(text_.size() - offset);
+    entries_.push_back({offset, length, kind, hidden});
+    const QStringView name = nameOf(static_cast<quint32>(entries_.size() - 1));
+    const qsizetype dot = name.lastIndexOf(u'.');
+    extensions_.push_back(dot < 0 ? 0 : extensionKey(name.mid(dot + 1)));
 }
 
 FileNames Directory::files(const QString &patterns) const
 {
     const FilePattern pattern(patterns);
-    std::vector<quint32> matching;
-    for (size_t i = 0; i < entries_.size(); ++i) {
-        const Entry &entry = entries_[i];
-        if (entry.kind != Kind::File || entry.hidden)
-            continue;
-        const QStringView name = nameOf(static_cast<quint32>(i));
-        if (pattern.matches(name, name.mid(entry.extension - entry.offset)))
-            matching.push_back(static_cast<quint32>(i));
-    }
+    std::vector<quint32> matching = select(pattern);
+    const auto isNoFile = [this](quint32 entry) {
+        return entries_[entry].kind != Kind::File || entries_[entry].hidden;
+    };
+    matching.erase(std::remove_if(matching.begin(), matching.end(), isNoFile), matching.end());
     return names(std::move(matching));
+}
+
+std::vector<quint32> Directory::select(const FilePattern &pattern) const
+{
+    std::vector<quint32> matching;
+    const auto count = static_cast<quint32>(entries_.size());
+    for (quint32 entry = 0; entry < count; ++entry) {
+        const quint64 key = extensions_[entry];
+        if (pattern.isByExtension() ? pattern.matchesExtension(key) : pattern.matches(nameOf(entry), key))
+            matching.push_back(entry);
+    }
+    return matching;
 }
 
 FileNames Directory::folders() const
@@ -149,17 +170,20 @@ FileNames Directory::folders() const
     return names(std::move(matching));
 }
 
-QString Directory::find(const QString &name) const
+QString Directory::find(QStringView name) const
 {
     if (entries_.empty())
         return {};
     if (index_.empty())
         buildIndex();
     const size_t mask = index_.size() - 1;
+    const quint32 hash = foldedHash(name);
     const quint32 none = 0;
     quint32 best = none;
-    for (size_t slot = foldedHash(name) & mask; index_[slot] != none; slot = (slot + 1) & mask) {
-        const quint32 entry = index_[slot] - 1;
+    for (size_t i = hash & mask; index_[i].entry != none; i = (i + 1) & mask) {
+        if (index_[i].hash != hash)
+            continue;
+        const quint32 entry = index_[i].entry - 1;
         const QStringView candidate = nameOf(entry);
         if (candidate == name)
             return candidate.toString();
@@ -171,7 +195,7 @@ QString Directory::find(const QString &name) const
 
 QStringView Directory::nameOf(quint32 entry) const
 {
-    return QStringView(text_.data() + entries_[entry].offset, entries_[entry].length);
+    return {text_.data() + entries_[entry].offset, qsizetype(entries_[entry].length)};
 }
 
 // Names that differ in case alone stand in the order of their spelling, so that the order is always the same.
@@ -195,12 +219,13 @@ void Directory::buildIndex() const
     size_t size = 16;
     while (size < entries_.size() * 2)
         size *= 2;
-    index_.assign(size, 0);
+    index_.assign(size, {0, 0});
     for (quint32 entry = 0; entry < entries_.size(); ++entry) {
-        size_t slot = foldedHash(nameOf(entry)) & (size - 1);
-        while (index_[slot] != 0)
-            slot = (slot + 1) & (size - 1);
-        index_[slot] = entry + 1;
+        const quint32 hash = foldedHash(nameOf(entry));
+        size_t i = hash & (size - 1);
+        while (index_[i].entry != 0)
+            i = (i + 1) & (size - 1);
+        index_[i] = {hash, entry + 1};
     }
 }
 

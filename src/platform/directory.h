@@ -1,5 +1,8 @@
 #pragma once
 
+#include "platform/file_pattern.h"
+
+#include <QByteArrayView>
 #include <QString>
 #include <QStringList>
 
@@ -64,12 +67,12 @@ public:
     /// The absolute path, spelled as it is on disk; a trailing backslash only at a root.
     QString path() const { return path_; }
 
-    /// Makes room for `count` names.
-    void reserve(qsizetype count);
-
     /// Adds a name while the directory is being read. `hidden` names (hidden and system files) are found by
     /// lookups but shown in no list.
     void add(QStringView name, Kind kind, bool hidden);
+
+    /// The same for a name in plain ASCII, as nearly all names are.
+    void addAscii(QByteArrayView name, Kind kind, bool hidden);
 
     /// The files that match any pattern of `patterns`, a list such as "*.plt;*.hpg", in any letter case.
     FileNames files(const QString &patterns) const;
@@ -79,7 +82,7 @@ public:
 
     /// The name as it is spelled on disk of whatever is called `name`: the exact one, else the first in order
     /// among those that differ in case alone, else null.
-    QString find(const QString &name) const;
+    QString find(QStringView name) const;
 
 private:
     friend class FileNames;
@@ -87,14 +90,21 @@ private:
     struct Entry
     {
         quint32 offset;
-        quint32 extension; ///< offset of the text behind the last dot, or of the end where there is no dot
         quint16 length;
         Kind kind;
         bool hidden;
     };
 
+    struct Slot
+    {
+        quint32 hash;
+        quint32 entry; ///< its number + 1, 0 for a free slot
+    };
+
     Directory() = default;
 
+    void finish(quint32 offset, Kind kind, bool hidden);
+    std::vector<quint32> select(const FilePattern &pattern) const;
     QStringView nameOf(quint32 entry) const;
     bool before(quint32 a, quint32 b) const;
     FileNames names(std::vector<quint32> entries) const;
@@ -103,8 +113,8 @@ private:
     QString path_;
     std::u16string text_; ///< all names behind each other
     std::vector<Entry> entries_;
-    mutable std::vector<quint32>
-        index_; ///< hash table of entry numbers + 1 by folded name; made by the first lookup
+    std::vector<quint64> extensions_; ///< the key of each entry's extension
+    mutable std::vector<Slot> index_; ///< hash table by folded name; made by the first lookup
 };
 
 } // namespace platform

@@ -10,25 +10,9 @@ namespace platform {
 
 namespace {
 
-constexpr quint64 Unpackable = 0;
-
-// The extension in upper case as one number; a directory of 100,000 names is matched by comparing these.
-quint64 packed(QStringView extension)
-{
-    if (extension.isEmpty() || extension.size() > 4)
-        return Unpackable;
-    quint64 result = 0;
-    for (QChar unit : extension) {
-        if (unit.unicode() >= 0x80)
-            return Unpackable;
-        result = (result << 16) | upperCase(unit.unicode());
-    }
-    return result;
-}
-
 bool isPlainExtension(const QString &pattern)
 {
-    return pattern.startsWith(QLatin1String("*.")) && packed(QStringView(pattern).mid(2)) != Unpackable
+    return pattern.startsWith(QLatin1String("*.")) && extensionKey(QStringView(pattern).mid(2)) != 0
            && pattern.indexOf(u'*', 1) < 0 && !pattern.contains(u'?') && pattern.indexOf(u'.', 2) < 0;
 }
 
@@ -61,25 +45,36 @@ bool matchesWildcards(QStringView name, QStringView pattern)
 
 } // namespace
 
+quint64 extensionKey(QStringView extension)
+{
+    if (extension.size() > 4)
+        return 0;
+    quint64 key = 0;
+    for (QChar unit : extension) {
+        if (unit.unicode() >= 0x80)
+            return 0;
+        key = (key << 16) | upperCase(unit.unicode());
+    }
+    return key;
+}
+
 FilePattern::FilePattern(const QString &patterns)
 {
     const QStringList list = patterns.split(u';', Qt::SkipEmptyParts);
     for (const QString &item : list) {
         const QString pattern = item.trimmed();
         if (isPlainExtension(pattern))
-            extensions_.push_back(packed(QStringView(pattern).mid(2)));
+            extensions_.push_back(extensionKey(QStringView(pattern).mid(2)));
         else
             others_.append(pattern == u"*.*" ? u"*"_s : pattern);
     }
 }
 
-bool FilePattern::matches(QStringView name, QStringView extension) const
+bool FilePattern::matches(QStringView name, quint64 key) const
 {
-    const quint64 key = packed(extension);
-    if (key != Unpackable && std::find(extensions_.begin(), extensions_.end(), key) != extensions_.end())
-        return true;
-    return std::any_of(others_.begin(), others_.end(),
-                       [name](const QString &pattern) { return matchesWildcards(name, pattern); });
+    return matchesExtension(key)
+           || std::any_of(others_.begin(), others_.end(),
+                          [name](const QString &pattern) { return matchesWildcards(name, pattern); });
 }
 
 } // namespace platform

@@ -66,6 +66,15 @@ public:
 
     /// The present state of a file; nothing where there is none.
     virtual std::optional<FileStamp> stamp(const QString &path) = 0;
+
+    /// Begins a moment, and ends it: in between all questions are answered for that moment, so that whether a
+    /// directory has changed is looked up once and not for each of them. The dispatcher gives every handler
+    /// its moment.
+    virtual void beginMoment() {}
+    virtual void endMoment() {}
+
+    /// Events have run meanwhile: another moment begins.
+    virtual void nextMoment() {}
 };
 
 } // namespace platform

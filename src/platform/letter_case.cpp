@@ -37,20 +37,34 @@ char32_t toLower(char32_t unit)
     return QChar::toLower(unit);
 }
 
-QString mappedText(const QString &text, char16_t (*unitCase)(char16_t))
+bool isAscii(QStringView text)
 {
-    QString result(text.size(), Qt::Uninitialized);
-    std::transform(text.begin(), text.end(), result.begin(),
-                   [unitCase](QChar unit) { return QChar(unitCase(unit.unicode())); });
-    return result;
+    char16_t all = 0;
+    for (QChar unit : text)
+        all = static_cast<char16_t>(all | unit.unicode());
+    return all < 0x80;
+}
+
+char16_t upperCaseAscii(char16_t unit)
+{
+    return static_cast<char16_t>(unit - (static_cast<unsigned>(unit - u'a') < 26U ? 0x20U : 0U));
+}
+
+// Writes `text` in upper case to `out`; where it ends. Nearly all names are ASCII, for which these are two
+// plain loops.
+QChar *upperCaseInto(QStringView text, QChar *out)
+{
+    if (isAscii(text))
+        return std::transform(text.begin(), text.end(), out,
+                              [](QChar unit) { return QChar(upperCaseAscii(unit.unicode())); });
+    return std::transform(text.begin(), text.end(), out,
+                          [](QChar unit) { return QChar(upperCase(unit.unicode())); });
 }
 
 } // namespace
 
-char16_t upperCase(char16_t unit)
+char16_t upperCaseBeyondAscii(char16_t unit)
 {
-    if (unit < 0x80)
-        return unit >= u'a' && unit <= u'z' ? static_cast<char16_t>(unit - 0x20) : unit;
     return mapped(unit, toUpper, toLower);
 }
 
@@ -61,14 +75,28 @@ char16_t lowerCase(char16_t unit)
     return mapped(unit, toLower, toUpper);
 }
 
-QString UCase(const QString &text)
+QString UCase(QStringView text)
 {
-    return mappedText(text, upperCase);
+    QString result(text.size(), Qt::Uninitialized);
+    upperCaseInto(text, result.data());
+    return result;
 }
 
-QString LCase(const QString &text)
+QString UCasePath(QStringView directory, QStringView name)
 {
-    return mappedText(text, lowerCase);
+    QString result(directory.size() + 1 + name.size(), Qt::Uninitialized);
+    QChar *out = upperCaseInto(directory, result.data());
+    *out++ = u'\\';
+    upperCaseInto(name, out);
+    return result;
+}
+
+QString LCase(QStringView text)
+{
+    QString result(text.size(), Qt::Uninitialized);
+    std::transform(text.begin(), text.end(), result.data(),
+                   [](QChar unit) { return QChar(lowerCase(unit.unicode())); });
+    return result;
 }
 
 bool sameIgnoringCase(QStringView a, QStringView b)

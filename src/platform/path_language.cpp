@@ -43,6 +43,21 @@ qsizetype labelLength(QStringView behindColon)
     return 0;
 }
 
+// Whether `path` is in its final form, as most paths are: nothing to be taken apart.
+bool isAbsoluteAlready(QStringView path)
+{
+    if (path.size() < 4 || path[0] < u'A' || path[0] > u'Z' || path[1] != u':' || path[2] != Backslash)
+        return false;
+    QChar before = Backslash;
+    for (QChar c : path.mid(3)) {
+        // A dot behind a backslash may be "." or "..".
+        if (c == u':' || c == u'\0' || (before == Backslash && (c == Backslash || c == u'.')))
+            return false;
+        before = c;
+    }
+    return before != Backslash;
+}
+
 } // namespace
 
 PathParts splitPath(const QString &path)
@@ -96,6 +111,8 @@ QString nameOf(const QString &path)
 
 QString CurrentDirectories::absolute(const QString &path) const
 {
+    if (isAbsoluteAlready(path))
+        return path;
     const PathParts parts = splitPath(path);
     if (path.isEmpty() || parts.Network)
         throw RuntimeError(ErrorNumber::PathNotFound);

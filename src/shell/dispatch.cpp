@@ -15,11 +15,26 @@ void report(Panel &panel, const QString &description) noexcept
     }
 }
 
-void endIfUnloading(const Panel &panel)
+// Events have run: nothing that was known before need be so still.
+void goOn(const Panel &panel)
 {
     if (panel.unloading)
         throw Unloaded();
+    panel.platform.files.nextMoment();
 }
+
+/// The moment of a handler.
+class HandlersMoment
+{
+public:
+    explicit HandlersMoment(platform::FileSystem &files) : files_(files) { files_.beginMoment(); }
+    ~HandlersMoment() { files_.endMoment(); }
+    HandlersMoment(const HandlersMoment &) = delete;
+    HandlersMoment &operator=(const HandlersMoment &) = delete;
+
+private:
+    platform::FileSystem &files_;
+};
 
 } // namespace
 
@@ -27,6 +42,7 @@ void dispatch(Panel &panel, const controls::Event &handler)
 {
     if (!handler || panel.unloading)
         return;
+    const HandlersMoment moment(panel.platform.files);
     try {
         handler();
     } catch (const Unloaded &) {
@@ -42,14 +58,27 @@ void pause(Panel &panel, double seconds)
 {
     platform::Clock &clock = panel.platform.clock;
     clock.letEventsRunUntil(clock.seconds() + seconds);
-    endIfUnloading(panel);
+    goOn(panel);
+}
+
+void letPendingEventsRun(Panel &panel)
+{
+    panel.platform.clock.letPendingEventsRun();
+    goOn(panel);
 }
 
 platform::Answer MsgBox(Panel &panel, const platform::MessageBox &box)
 {
     const platform::Answer answer = panel.platform.dialogs.message(box);
-    endIfUnloading(panel);
+    goOn(panel);
     return answer;
+}
+
+std::optional<QString> askForFile(Panel &panel, const platform::OpenFileRequest &request)
+{
+    auto chosen = panel.platform.dialogs.openFile(request);
+    goOn(panel);
+    return chosen;
 }
 
 void say(Panel &panel, const QString &text)

@@ -21,6 +21,13 @@ void dispatch(Panel &panel, const controls::Event &handler);
 /// Lets window events run for `seconds`. Raises Unloaded when the main window is closed meanwhile.
 void pause(Panel &panel, double seconds);
 
+/// Lets the window events that are pending now run. Raises Unloaded when the main window is closed meanwhile.
+void letPendingEventsRun(Panel &panel);
+
+/// Lets the user choose a file; nothing when the dialog was cancelled. Raises Unloaded when the main window
+/// is closed meanwhile.
+std::optional<QString> askForFile(Panel &panel, const platform::OpenFileRequest &request);
+
 /// Shows a message box and gives its answer. Raises Unloaded when the main window is closed meanwhile.
 platform::Answer MsgBox(Panel &panel, const platform::MessageBox &box);
 

@@ -1,7 +1,6 @@
 // Test programs whose tests drive real widgets, on no screen.
 
 #include <QApplication>
-
 #include <gmock/gmock.h>
 
 #include <cstdio>

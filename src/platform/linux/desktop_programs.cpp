@@ -107,8 +107,7 @@ const Accessory *find(const QString &name)
 
 bool isExecutableFile(const QByteArray &path)
 {
-    struct stat status
-    {};
+    struct stat status = {};
     return ::stat(path.constData(), &status) == 0 && S_ISREG(status.st_mode)
            && ::access(path.constData(), X_OK) == 0;
 }

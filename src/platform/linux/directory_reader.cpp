@@ -9,14 +9,14 @@
 #include <array>
 #include <cerrno>
 #include <cstring>
-#include <vector>
+#include <ctime>
+#include <memory>
 
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/vfs.h>
-#include <time.h>
 #include <unistd.h>
 
 namespace platform::host {
@@ -46,8 +46,7 @@ qint64 tickOf(int descriptor)
                                              0x794C7630 /* overlay */,
                                              0xF2F52010 /* F2FS */,
                                              0x2FC12FC1 /* ZFS */};
-    struct statfs system
-    {};
+    struct statfs system = {};
     if (::fstatfs(descriptor, &system) == 0) {
         for (long type : KernelTick) {
             if (static_cast<long>(system.f_type) == type)
@@ -59,8 +58,7 @@ qint64 tickOf(int descriptor)
 
 Directory::Kind kindBehindLink(int descriptor, const char *name)
 {
-    struct stat status
-    {};
+    struct stat status = {};
     if (::fstatat(descriptor, name, &status, 0) != 0)
         return Directory::Kind::Other;
     if (S_ISREG(status.st_mode))
@@ -89,44 +87,45 @@ void addEntry(Directory &directory, int descriptor, unsigned char type, const ch
     if (bytes == "." || bytes == "..")
         return;
     const bool hidden = name[0] == '.';
-    directory.add(fromHostName(bytes), kindOf(descriptor, type, name), hidden);
+    const Directory::Kind kind = kindOf(descriptor, type, name);
+    if (isPlain(bytes))
+        directory.addAscii(bytes, kind, hidden);
+    else
+        directory.add(fromHostName(bytes), kind, hidden);
 }
 
 } // namespace
 
-DirectoryStamp stampOf(const QByteArray &hostPath)
+std::optional<DirectoryStamp> stampOf(const QByteArray &hostPath)
 {
-    struct stat status
-    {};
-    if (::stat(hostPath.constData(), &status) != 0)
-        raise(errno);
-    return stamp(status);
+    struct stat status = {};
+    return ::stat(hostPath.constData(), &status) == 0 ? std::optional(stamp(status)) : std::nullopt;
 }
 
 DirectoryReading readDirectory(const QByteArray &hostPath, const QString &path)
 {
     const FileDescriptor descriptor(::open(hostPath.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    struct stat status
-    {};
+    struct stat status = {};
     if (!descriptor.isValid() || ::fstat(descriptor.get(), &status) != 0)
         raise(errno);
 
     timespec now{};
     ::clock_gettime(CLOCK_REALTIME, &now);
     const auto directory = Directory::create(path);
-    // One large buffer: a directory of 100,000 files is read in a handful of calls.
-    std::vector<char> buffer(size_t(1) << 20U);
+    // One large buffer: a directory of 100,000 files is read in a few calls.
+    constexpr size_t BufferSize = 256 * size_t(1024);
+    const auto buffer = std::make_unique_for_overwrite<char[]>(BufferSize);
     for (;;) {
-        const long size = ::syscall(SYS_getdents64, descriptor.get(), buffer.data(), buffer.size());
+        const long size = ::syscall(SYS_getdents64, descriptor.get(), buffer.get(), BufferSize);
         if (size < 0)
             raise(errno);
         if (size == 0)
             break;
         for (long offset = 0; offset < size;) {
             dirent64 entry; // NOLINT(cppcoreguidelines-pro-type-member-init): filled by the copy
-            std::memcpy(&entry, buffer.data() + offset, offsetof(dirent64, d_name));
+            std::memcpy(&entry, buffer.get() + offset, offsetof(dirent64, d_name));
             addEntry(*directory, descriptor.get(), entry.d_type,
-                     buffer.data() + offset + offsetof(dirent64, d_name));
+                     buffer.get() + offset + offsetof(dirent64, d_name));
             offset += entry.d_reclen;
         }
     }

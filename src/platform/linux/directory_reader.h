@@ -5,6 +5,7 @@
 #include <QByteArray>
 
 #include <memory>
+#include <optional>
 
 namespace platform::host {
 
@@ -29,8 +30,8 @@ struct DirectoryReading
     bool settled = false;
 };
 
-/// The present state of the directory `hostPath`. Raises what the system's error means.
-DirectoryStamp stampOf(const QByteArray &hostPath);
+/// The present state of the directory `hostPath`; nothing where there is none.
+std::optional<DirectoryStamp> stampOf(const QByteArray &hostPath);
 
 /// Reads the directory `hostPath`, which the panel knows as `path`, in one pass. Entries whose kind the
 /// directory tells cost no call of their own. Raises what the system's error means.

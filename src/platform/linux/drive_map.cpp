@@ -24,8 +24,7 @@ QByteArray resolvedDirectory(const QByteArray &link)
     char *resolved = ::realpath(link.constData(), nullptr);
     const QByteArray path(resolved);
     std::free(resolved); // NOLINT(cppcoreguidelines-no-malloc): realpath's own contract
-    struct stat status
-    {};
+    struct stat status = {};
     const bool isDirectory =
         !path.isEmpty() && ::stat(path.constData(), &status) == 0 && S_ISDIR(status.st_mode);
     return isDirectory ? path : QByteArray();

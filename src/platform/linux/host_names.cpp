@@ -44,6 +44,8 @@ qsizetype sequenceLength(QByteArrayView bytes)
     return decoder.hasError() || text.isEmpty() ? 0 : length;
 }
 
+} // namespace
+
 bool isPlain(QByteArrayView name)
 {
     for (char c : name) {
@@ -53,8 +55,6 @@ bool isPlain(QByteArrayView name)
     }
     return true;
 }
-
-} // namespace
 
 QString fromHostName(QByteArrayView name)
 {

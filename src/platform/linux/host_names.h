@@ -10,6 +10,9 @@ namespace platform::host {
 /// a private area, so that every name has exactly one form and comes back unchanged.
 QString fromHostName(QByteArrayView name);
 
+/// Whether a name of the file system is ASCII and has the same form in the path language.
+bool isPlain(QByteArrayView name);
+
 /// The file system's bytes of a name, or of any text with such names in it.
 QByteArray toHostName(QStringView name);
 

@@ -18,8 +18,7 @@ namespace {
 
 bool isRegularFile(const QByteArray &hostPath)
 {
-    struct stat status
-    {};
+    struct stat status = {};
     return ::stat(hostPath.constData(), &status) == 0 && S_ISREG(status.st_mode);
 }
 

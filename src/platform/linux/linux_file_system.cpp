@@ -36,8 +36,7 @@ QByteArray processDirectory()
 // it.
 void requireRegularFile(const QByteArray &hostPath)
 {
-    struct stat status
-    {};
+    struct stat status = {};
     if (::stat(hostPath.constData(), &status) != 0)
         throw RuntimeError(errno == ENOENT ? ErrorNumber::FileNotFound : errorNumber(errno));
     if (!S_ISREG(status.st_mode))
@@ -126,8 +125,7 @@ void LinuxFileSystem::changeDirectory(const QString &path)
     const auto found = lookup_.find(absolute);
     if (!found)
         throw RuntimeError(ErrorNumber::PathNotFound);
-    struct stat status
-    {};
+    struct stat status = {};
     if (::stat(found->constData(), &status) != 0)
         raise(errno);
     if (!S_ISDIR(status.st_mode))
@@ -148,7 +146,8 @@ std::shared_ptr<const Directory> LinuxFileSystem::directory(const QString &path,
 qint16 LinuxFileSystem::testReading(const QString &path) noexcept
 {
     try {
-        const PathLookup::File file = lookup_.findProgram(current_.absolute(path));
+        const PathLookup::File file =
+            lookup_.findProgram(lookup_.isInLastDirectory(path) ? path : current_.absolute(path));
         if (!file.hostPath)
             return static_cast<qint16>(missing(file));
         openForReading(*file.hostPath);
@@ -180,8 +179,7 @@ std::optional<FileStamp> LinuxFileSystem::stamp(const QString &path)
 {
     try {
         const auto found = lookup_.findFile(current_.absolute(path)).hostPath;
-        struct stat status
-        {};
+        struct stat status = {};
         if (!found || ::stat(found->constData(), &status) != 0)
             return std::nullopt;
         const auto nanoseconds = [](const timespec &time) {
@@ -220,8 +218,7 @@ QString LinuxFileSystem::adopt(const QByteArray &hostDirectory)
 std::optional<QByteArray> LinuxFileSystem::hostDirectory(const QString &path)
 {
     const auto found = lookup_.find(current_.absolute(path));
-    struct stat status
-    {};
+    struct stat status = {};
     const bool isDirectory = found && ::stat(found->constData(), &status) == 0 && S_ISDIR(status.st_mode);
     return isDirectory ? found : std::nullopt;
 }

@@ -26,6 +26,9 @@ public:
     QString firstLine(const QString &path) override;
     QString shortName(const QString &path) override;
     std::optional<FileStamp> stamp(const QString &path) override;
+    void beginMoment() override { lookup_.beginMoment(); }
+    void endMoment() override { lookup_.endMoment(); }
+    void nextMoment() override { lookup_.nextMoment(); }
 
     QString hostForm(const QString &directory) override;
     QString panelForm(const QString &hostFile) override;

@@ -5,6 +5,8 @@
 #include "platform/linux/system_error.h"
 #include "platform/path_language.h"
 
+#include <algorithm>
+
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -17,17 +19,25 @@ constexpr qsizetype MostReadings = 24;
 
 bool exists(const QByteArray &hostPath)
 {
-    struct stat status
-    {};
+    struct stat status = {};
     return ::stat(hostPath.constData(), &status) == 0;
 }
 
 bool isExecutableFile(const QByteArray &hostPath)
 {
-    struct stat status
-    {};
+    struct stat status = {};
     return ::stat(hostPath.constData(), &status) == 0 && S_ISREG(status.st_mode)
            && ::access(hostPath.constData(), X_OK) == 0;
+}
+
+QByteArray keyOf(QChar drive, const QByteArray &hostDirectory)
+{
+    return static_cast<char>(drive.unicode()) + hostDirectory;
+}
+
+bool namesProgram(QStringView path)
+{
+    return path.size() > 4 && path[path.size() - 4] == u'.' && sameIgnoringCase(path.last(3), u"exe");
 }
 
 // The host's root may be written as an empty path, to which names are joined.
@@ -59,44 +69,72 @@ std::optional<QByteArray> PathLookup::find(const QString &path)
 PathLookup::File PathLookup::findFile(const QString &path)
 {
     requireDrive(path);
-    const QString directory = parentOf(path);
-    const auto remembered = remembered_.constFind(UCase(directory));
-    if (remembered != remembered_.constEnd() && directory.size() < path.size()) {
-        try {
-            const QByteArray hostDirectory = *remembered;
-            const QString name = listing(path.at(0), hostDirectory, Reading::WhenChanged)->find(nameOf(path));
-            return {name.isNull() ? std::nullopt : std::optional(joined(hostDirectory, name))};
-        } catch (const RuntimeError &) {
-            // Gone, or not to be listed: the long way may still find it.
-        }
+    const qsizetype name = path.lastIndexOf(u'\\') + 1;
+    // A name directly in a root is looked for the long way.
+    if (const auto reading = name > 3 ? usedDirectory(QStringView(path).left(name - 1)) : nullptr) {
+        const QString spelled = reading->read.directory->find(QStringView(path).mid(name));
+        return {spelled.isNull() ? std::nullopt : std::optional(joined(reading->hostPath, spelled))};
     }
     const auto found = find(path);
-    return {found, found || find(directory)};
+    return {found, found || find(parentOf(path))};
+}
+
+// The reading of a directory that the panel has used, brought up to date; null where it is not one, is gone
+// or cannot be listed.
+std::shared_ptr<PathLookup::Reading> PathLookup::usedDirectory(QStringView directory)
+{
+    if (lastReading_ && directory == lastDirectory_ && isCurrent(*lastReading_))
+        return lastReading_;
+    lastReading_ = nullptr;
+    const QString path = directory.toString();
+    const auto remembered = remembered_.constFind(UCase(path));
+    if (remembered == remembered_.constEnd())
+        return nullptr;
+    try {
+        lastReading_ = listing(path.at(0), *remembered);
+        lastDirectory_ = path;
+    } catch (const RuntimeError &) {
+        // Gone, or not to be listed: the long way may still find the file.
+    }
+    return lastReading_;
+}
+
+bool PathLookup::isInLastDirectory(QStringView path) const
+{
+    const qsizetype length = lastDirectory_.size();
+    if (!lastReading_ || path.size() <= length + 1 || path[length] != u'\\'
+        || !path.startsWith(lastDirectory_))
+        return false;
+    const QStringView name = path.mid(length + 1);
+    return name[0] != u'.' && std::none_of(name.begin(), name.end(), [](QChar c) {
+               return c == u'\\' || c == u':' || c == u'\0';
+           });
 }
 
 PathLookup::File PathLookup::findProgram(const QString &path)
 {
     const File found = findFile(path);
-    if (found.hostPath || !path.endsWith(QLatin1String(".EXE"), Qt::CaseInsensitive))
+    if (found.hostPath || !namesProgram(path))
         return found;
     const File native = findFile(path.chopped(4));
     return native.hostPath && isExecutableFile(*native.hostPath) ? native : found;
 }
 
-std::shared_ptr<const Directory> PathLookup::directory(const QString &path, Reading reading)
+std::shared_ptr<const Directory> PathLookup::directory(const QString &path, platform::Reading reading)
 {
     const auto found = find(path);
     if (!found)
         throw RuntimeError(ErrorNumber::PathNotFound);
     const QChar drive = path.at(0);
-    auto result = listing(drive, *found, reading);
+    const auto result = reading == platform::Reading::Anew ? readAnew(drive, *found) : listing(drive, *found);
     remember(drive, *found);
-    return result;
+    return result->read.directory;
 }
 
 void PathLookup::remember(QChar drive, const QByteArray &hostDirectory)
 {
     remembered_.insert(UCase(drives_.toPanel(drive, hostDirectory)), hostDirectory);
+    lastReading_ = nullptr;
 }
 
 void PathLookup::requireDrive(const QString &path) const
@@ -105,24 +143,37 @@ void PathLookup::requireDrive(const QString &path) const
         throw RuntimeError(ErrorNumber::DeviceUnavailable);
 }
 
-// A listing carries its path on one drive; a directory that two drives reach is read for each.
-std::shared_ptr<const Directory> PathLookup::listing(QChar drive, const QByteArray &hostDirectory,
-                                                     Reading reading)
+bool PathLookup::isCurrent(Reading &reading) const
 {
-    const QByteArray readable = hostDirectory.isEmpty() ? QByteArray("/") : hostDirectory;
-    const QString path = drives_.toPanel(drive, hostDirectory);
-    const auto known = readings_.constFind(path);
-    if (reading == Reading::WhenChanged && known != readings_.constEnd() && known->settled
-        && known->stamp == stampOf(readable))
-        return known->directory;
+    if (moments_ > 0 && reading.moment == moment_)
+        return true;
+    const auto now = stampOf(reading.hostPath);
+    if (!reading.read.settled || now != reading.read.stamp)
+        return false;
+    reading.moment = moment_;
+    return true;
+}
 
-    DirectoryReading fresh = readDirectory(readable, path);
-    recentlyRead_.removeOne(path);
-    recentlyRead_.append(path);
+std::shared_ptr<PathLookup::Reading> PathLookup::listing(QChar drive, const QByteArray &hostDirectory)
+{
+    const auto known = readings_.constFind(keyOf(drive, hostDirectory));
+    return known != readings_.constEnd() && isCurrent(**known) ? *known : readAnew(drive, hostDirectory);
+}
+
+std::shared_ptr<PathLookup::Reading> PathLookup::readAnew(QChar drive, const QByteArray &hostDirectory)
+{
+    const auto reading = std::make_shared<Reading>();
+    reading->hostPath = hostDirectory.isEmpty() ? QByteArray("/") : hostDirectory;
+    reading->read = readDirectory(reading->hostPath, drives_.toPanel(drive, hostDirectory));
+    reading->moment = moment_;
+
+    const QByteArray key = keyOf(drive, hostDirectory);
+    recentlyRead_.removeOne(key);
+    recentlyRead_.append(key);
     if (recentlyRead_.size() > MostReadings)
         readings_.remove(recentlyRead_.takeFirst());
-    readings_.insert(path, fresh);
-    return fresh.directory;
+    readings_.insert(key, reading);
+    return reading;
 }
 
 std::optional<QByteArray> PathLookup::findBelow(QChar drive, QByteArray hostDirectory,
@@ -131,7 +182,7 @@ std::optional<QByteArray> PathLookup::findBelow(QChar drive, QByteArray hostDire
     for (const QString &name : names) {
         QString spelled;
         try {
-            spelled = listing(drive, hostDirectory, Reading::WhenChanged)->find(name);
+            spelled = listing(drive, hostDirectory)->read.directory->find(name);
         } catch (const RuntimeError &) {
             // A directory that cannot be listed may still be passed through by the exact name.
             spelled = name;

@@ -37,27 +37,56 @@ public:
     /// decides, so that a missing file costs one call.
     File findFile(const QString &path);
 
+    /// Whether `path` is a plain name in the directory of the file that was looked up last, written in the
+    /// same way: then it is absolute as it stands.
+    bool isInLastDirectory(QStringView path) const;
+
     /// The same for a program: one named ".exe" that is not there is looked for without its extension, as a
     /// regular executable file, so that a native program or a script may take its place.
     File findProgram(const QString &path);
 
     /// What the directory `path` holds, kept while the directory is unchanged. Raises PathNotFound,
     /// PermissionDenied.
-    std::shared_ptr<const Directory> directory(const QString &path, Reading reading);
+    std::shared_ptr<const Directory> directory(const QString &path, platform::Reading reading);
+
+    /// Moments in which no directory changes; they may lie within each other.
+    void beginMoment()
+    {
+        ++moment_;
+        ++moments_;
+    }
+    void endMoment() { --moments_; }
+    void nextMoment() { ++moment_; }
 
     /// Remembers the true spelling of a directory that the panel has used, so that its upper-case form is
     /// found again even below a directory that cannot be listed, and is never mistaken for another one's.
     void remember(QChar drive, const QByteArray &hostDirectory);
 
 private:
+    /// A directory that was read. It carries its path on one drive; one that two drives reach is read for
+    /// each.
+    struct Reading
+    {
+        QByteArray hostPath;
+        DirectoryReading read;
+        quint64 moment = 0; ///< the last moment for which it was known to be current
+    };
+
     void requireDrive(const QString &path) const;
-    std::shared_ptr<const Directory> listing(QChar drive, const QByteArray &hostDirectory, Reading reading);
+    bool isCurrent(Reading &reading) const;
+    std::shared_ptr<Reading> readAnew(QChar drive, const QByteArray &hostDirectory);
+    std::shared_ptr<Reading> listing(QChar drive, const QByteArray &hostDirectory);
+    std::shared_ptr<Reading> usedDirectory(QStringView directory);
     std::optional<QByteArray> findBelow(QChar drive, QByteArray hostDirectory, const QStringList &names);
 
     DriveMap &drives_;
     QHash<QString, QByteArray> remembered_; ///< upper-case path of a directory: its path on the host
-    QHash<QString, DirectoryReading> readings_;
-    QStringList recentlyRead_; ///< of readings_, the oldest first
+    QHash<QByteArray, std::shared_ptr<Reading>> readings_; ///< by drive letter and host path
+    QList<QByteArray> recentlyRead_;                       ///< of readings_, the oldest first
+    QString lastDirectory_;                ///< of the last file that was looked up, as it was written
+    std::shared_ptr<Reading> lastReading_; ///< its reading
+    quint64 moment_ = 0;
+    int moments_ = 0; ///< how many lie within each other now
 };
 
 } // namespace platform::host

@@ -53,8 +53,7 @@ ProgramKind programKind(QByteArrayView start)
 
 ProgramKind programKindOf(const QByteArray &hostPath)
 {
-    struct stat status
-    {};
+    struct stat status = {};
     if (::stat(hostPath.constData(), &status) != 0 || !S_ISREG(status.st_mode))
         return ProgramKind::Unknown;
     const FileDescriptor file(::open(hostPath.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
