@@ -1,0 +1,32 @@
+#include "browser/trial_files.h"
+
+#include "browser/test_file.h"
+
+namespace browser {
+
+namespace {
+
+constexpr qsizetype RoomForExtension = 8;
+
+} // namespace
+
+TrialFiles::TrialFiles(Panel &panel) : panel_(panel), length_(panel.kinovra.CurrentTrial.size())
+{
+    name_.reserve(length_ + RoomForExtension);
+    name_ += panel.kinovra.CurrentTrial;
+}
+
+bool TrialFiles::has(const char *extension)
+{
+    name_.truncate(length_);
+    name_ += QLatin1String(extension);
+    return TestFile(panel_, panel_.kinovra.DataDir, name_, Silent) == 0;
+}
+
+bool TrialFiles::hasEither(const char *extension, const char *other)
+{
+    const bool first = has(extension);
+    return has(other) || first;
+}
+
+} // namespace browser

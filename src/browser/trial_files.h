@@ -1,0 +1,27 @@
+#pragma once
+
+#include "shell/panel.h"
+
+namespace browser {
+
+using shell::Panel;
+
+/// Asks silently, for one moment, which files of the data directory the current trial has.
+class TrialFiles
+{
+public:
+    explicit TrialFiles(Panel &panel);
+
+    /// Whether the trial's file with this extension, dot included, can be opened.
+    bool has(const char *extension);
+
+    /// Whether one of two can. Both are tested, whatever the first says.
+    bool hasEither(const char *extension, const char *other);
+
+private:
+    Panel &panel_;
+    QString name_; ///< the trial's name, with room for an extension
+    qsizetype length_;
+};
+
+} // namespace browser
