@@ -9,8 +9,6 @@
 #include <QScopedValueRollback>
 #include <QTimer>
 
-#include <vector>
-
 namespace views {
 
 namespace {
@@ -36,37 +34,43 @@ Menus::Menus(QMenuBar *bar, EventRunner &events) : QObject(bar), bar_(bar), even
     build();
 }
 
+// The menu bar alone: what a menu holds is made when it is first opened, so that the window appears sooner.
 void Menus::build()
 {
-    auto &frm = events_.panel().frm;
     const auto &rows = shell::menuTree();
-    std::vector<QMenu *> open; // the menus that the next row may belong to, from the menu bar down
-    for (size_t i = 0; i < rows.size(); ++i) {
-        const shell::MenuRow &row = rows[i];
-        open.resize(static_cast<size_t>(row.depth));
-        QMenu *parent = open.empty() ? nullptr : open.back();
-        if (row.isSeparator()) {
-            parent->addSeparator();
+    for (size_t row = 0; row < rows.size(); ++row) {
+        if (rows[row].depth > 0)
             continue;
-        }
-        controls::MenuItem &item = row.item(frm);
-        if (i + 1 < rows.size() && rows[i + 1].depth > row.depth) {
-            QMenu *menu = parent ? parent->addMenu(row.caption) : bar_->addMenu(row.caption);
-            if (!parent)
-                accessKeys_ += accessKey(row.caption);
-            bind(menu->menuAction(), item);
-            bindMenu(menu, item);
-            open.push_back(menu);
-        } else {
-            QAction *action = parent->addAction(row.caption);
-            bind(action, item);
-            connect(action, &QAction::triggered, this, [this, action, &item] {
-                events_.run(item.Click);
-                // The widget has toggled its mark by itself; the mark is the command's.
-                action->setChecked(item.Checked);
-            });
-        }
+        QMenu *menu = bar_->addMenu(rows[row].caption);
+        accessKeys_ += accessKey(rows[row].caption);
+        bindMenu(menu, row);
     }
+}
+
+void Menus::fill(QMenu *menu, size_t menuRow)
+{
+    const auto &rows = shell::menuTree();
+    const int depth = rows[menuRow].depth + 1;
+    for (size_t row = menuRow + 1; row < rows.size() && rows[row].depth >= depth; ++row) {
+        if (rows[row].depth > depth)
+            continue;
+        if (rows[row].isSeparator())
+            menu->addSeparator();
+        else if (row + 1 < rows.size() && rows[row + 1].depth > depth)
+            bindMenu(menu->addMenu(rows[row].caption), row);
+        else
+            bindItem(menu->addAction(rows[row].caption), rows[row].item(events_.panel().frm));
+    }
+}
+
+void Menus::bindItem(QAction *action, controls::MenuItem &item)
+{
+    bind(action, item);
+    connect(action, &QAction::triggered, this, [this, action, &item] {
+        events_.run(item.Click);
+        // The widget has toggled its mark by itself; the mark is the command's.
+        action->setChecked(item.Checked);
+    });
 }
 
 void Menus::bind(QAction *action, controls::MenuItem &item)
@@ -81,9 +85,15 @@ void Menus::bind(QAction *action, controls::MenuItem &item)
     });
 }
 
-void Menus::bindMenu(QMenu *menu, controls::MenuItem &item)
+void Menus::bindMenu(QMenu *menu, size_t menuRow)
 {
-    connect(menu, &QMenu::aboutToShow, this, [this, menu, &item] { opens(menu, item); });
+    controls::MenuItem &item = shell::menuTree()[menuRow].item(events_.panel().frm);
+    bind(menu->menuAction(), item);
+    connect(menu, &QMenu::aboutToShow, this, [this, menu, menuRow, &item] {
+        if (menu->isEmpty())
+            fill(menu, menuRow);
+        opens(menu, item);
+    });
     connect(menu, &QMenu::aboutToHide, this, [this] {
         passing_ = true;
         QTimer::singleShot(0, this, [this] { passing_ = false; });

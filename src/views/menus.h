@@ -27,8 +27,10 @@ public:
 
 private:
     void build();
+    void fill(QMenu *menu, size_t menuRow);
     void bind(QAction *action, controls::MenuItem &item);
-    void bindMenu(QMenu *menu, controls::MenuItem &item);
+    void bindItem(QAction *action, controls::MenuItem &item);
+    void bindMenu(QMenu *menu, size_t menuRow);
     void opens(QMenu *menu, controls::MenuItem &item);
     void asks(QMenu *menu, controls::MenuItem &item);
 

@@ -47,14 +47,23 @@ protected:
         settle();
     }
 
-    // Every entry of a menu, a line each, as deep as it lies.
+    // Every entry of a menu, a line each, as deep as it lies. A menu is filled when it is about to open.
     static void render(const QList<QAction *> &actions, int depth, QStringList &lines)
     {
         for (const QAction *entry : actions) {
             lines.append(QString(depth, u' ') + (entry->isSeparator() ? u"-"_s : entry->text()));
-            if (entry->menu())
-                render(entry->menu()->actions(), depth + 1, lines);
+            if (!entry->menu())
+                continue;
+            entry->menu()->aboutToShow();
+            render(entry->menu()->actions(), depth + 1, lines);
         }
+    }
+
+    QStringList renderedTree() const
+    {
+        QStringList lines;
+        render(bar()->actions(), 0, lines);
+        return lines;
     }
 };
 
@@ -63,13 +72,21 @@ TEST_F(MenuViews, render_the_whole_tree)
     QStringList expected;
     for (const shell::MenuRow &row : shell::menuTree())
         expected.append(QString(row.depth, u' ') + (row.isSeparator() ? u"-"_s : row.caption));
-    QStringList lines;
-    render(bar()->actions(), 0, lines);
-    EXPECT_EQ(lines, expected);
+    EXPECT_EQ(renderedTree(), expected);
+    EXPECT_EQ(renderedTree(), expected) << "opened again";
+}
+
+TEST_F(MenuViews, show_what_was_set_before_they_were_first_opened)
+{
+    frm.mnuProg[4].Visible = false;
+    renderedTree();
+    EXPECT_FALSE(action(menu(u"&Programs"_s), u"&Momentum"_s)->isVisible());
+    EXPECT_TRUE(action(menu(u"&Settings  "_s), u"Prompt to View Output"_s)->isChecked());
 }
 
 TEST_F(MenuViews, follow_the_items)
 {
+    renderedTree();
     QAction *kinematics = action(menu(u"&Programs"_s), u"&Kinematics"_s);
     frm.mnuProg[3].Enabled = false;
     EXPECT_FALSE(kinematics->isEnabled());
@@ -85,12 +102,14 @@ TEST_F(MenuViews, follow_the_items)
 
 TEST_F(MenuViews, run_the_items)
 {
+    renderedTree();
     action(menu(u"&User level..."_s), u"Expert"_s)->trigger();
     EXPECT_EQ(kinovra.UserLevel, 1);
 }
 
 TEST_F(MenuViews, show_the_commands_marks_and_not_their_own)
 {
+    renderedTree();
     QAction *novice = action(menu(u"&User level..."_s), u"Novice"_s);
     novice->trigger();
     EXPECT_TRUE(novice->isChecked());
