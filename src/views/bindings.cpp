@@ -10,7 +10,11 @@ namespace views {
 void Bindings::bind(QWidget *widget, controls::Control &control)
 {
     widget->setToolTip(control.ToolTip);
-    follow(control.Visible, [widget, &control] { widget->setVisible(control.Visible); });
+    follow(control.Visible, [widget, &control] {
+        // Without a parent yet it would appear as a window of its own.
+        if (widget->parentWidget() || !control.Visible)
+            widget->setVisible(control.Visible);
+    });
     follow(control.Enabled, [widget, &control] { widget->setEnabled(control.Enabled); });
 }
 

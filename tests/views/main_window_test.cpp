@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QMenuBar>
+#include <QSet>
 #include <QStatusBar>
 #include <QTest>
 
@@ -38,6 +39,40 @@ protected:
         settle();
     }
 };
+
+namespace {
+
+/// Notes which windows appear.
+class WindowWatch : public QObject
+{
+public:
+    WindowWatch() { qApp->installEventFilter(this); }
+
+    QSet<QObject *> appeared;
+
+private:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Show && watched->isWidgetType()
+            && static_cast<QWidget *>(watched)->isWindow())
+            appeared.insert(watched);
+        return false;
+    }
+};
+
+} // namespace
+
+using StartView = support::ViewFixture;
+
+TEST_F(StartView, makes_the_main_window_appear_and_no_control_beside_it)
+{
+    WindowWatch watch;
+    windows = std::make_unique<views::PanelWindows>(panel);
+    EXPECT_TRUE(watch.appeared.isEmpty());
+    windows->load();
+    settle();
+    EXPECT_EQ(watch.appeared, QSet<QObject *>{&window()});
+}
 
 TEST_F(MainWindowView, has_its_size)
 {
