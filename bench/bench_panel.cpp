@@ -1,0 +1,24 @@
+#include "bench_panel.h"
+
+#include "shell/connect_rooms.h"
+
+namespace bench {
+
+platform::Answer SilentDialogs::message(const platform::MessageBox &box)
+{
+    return box.buttons == platform::Buttons::OKOnly || box.buttons == platform::Buttons::OKCancel
+               ? platform::OK
+               : platform::No;
+}
+
+std::optional<QString> SilentDialogs::openFile(const platform::OpenFileRequest &)
+{
+    return std::nullopt;
+}
+
+BenchPanel::BenchPanel(const QString &settings) : settings_(settings)
+{
+    shell::connectRooms(panel_);
+}
+
+} // namespace bench
