@@ -137,7 +137,8 @@ int runPanel(QApplication &application)
     const QTemporaryDir settings;
     BenchPanel bench(settings.path());
     views::PanelWindows windows(bench.panel());
-    QTimer::singleShot(0, &application, [&windows] { windows.load(); });
+    QMetaObject::invokeMethod(
+        &application, [&windows] { windows.load(); }, Qt::QueuedConnection);
     return application.exec();
 }
 

@@ -12,7 +12,6 @@
 #include <QDir>
 #include <QFile>
 #include <QStandardPaths>
-#include <QTimer>
 
 namespace {
 
@@ -60,6 +59,7 @@ int main(int argc, char *argv[])
     shell::Panel panel(machine);
     shell::connectRooms(panel);
     views::PanelWindows windows(panel);
-    QTimer::singleShot(0, &windows.mainWindow(), [&windows] { windows.load(); });
+    QMetaObject::invokeMethod(
+        &windows.mainWindow(), [&windows] { windows.load(); }, Qt::QueuedConnection);
     return QApplication::exec();
 }

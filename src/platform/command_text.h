@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <utility>
 
 namespace platform {
 
@@ -15,8 +16,8 @@ class CommandText
 {
 public:
     CommandText() = default;
-    CommandText(const QString &switches) // NOLINT(google-explicit-constructor): switches are plain text
-        : text_(switches)
+    CommandText(QString switches) // NOLINT(google-explicit-constructor): switches are plain text
+        : text_(std::move(switches))
     {}
     CommandText(const char *switches) // NOLINT(google-explicit-constructor)
         : text_(QString::fromUtf8(switches))

@@ -27,7 +27,7 @@ char16_t fromCodePage1252(char c)
 QString decodeText(QByteArrayView bytes)
 {
     QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    const QString text = utf8.decode(bytes);
+    QString text = utf8.decode(bytes);
     if (!utf8.hasError())
         return text;
     QString result(bytes.size(), Qt::Uninitialized);

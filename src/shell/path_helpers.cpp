@@ -25,7 +25,7 @@ QString FileTitle(const QString &name)
 
 QString DirectoryOf(const QString &name)
 {
-    const QString none = u".\\"_s;
+    QString none = u".\\"_s;
     if (name.isEmpty())
         return none;
     if (name == u"\\")

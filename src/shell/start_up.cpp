@@ -137,8 +137,6 @@ void enableButtons(Panel &panel)
 
 void openDataDirectory(Panel &panel)
 {
-    auto [kinovra, frm, platform] = panel.parts();
-
     // Each statement that fails reports, and the next one is tried with the program directory.
     const auto attempt = [&panel](auto &&statement) {
         try {
@@ -149,16 +147,17 @@ void openDataDirectory(Panel &panel)
                            platform::Buttons::OKOnly, u"No Data Directory"_s});
         }
     };
-    attempt([&] { platform.files.changeDrive(kinovra.DataDir); });
-    attempt([&] { platform.files.changeDirectory(kinovra.DataDir); });
-    attempt([&] { frm.drvDrives.choose(kinovra.DataDir); });
-    while (kinovra.DataDir.startsWith(u' '))
-        kinovra.DataDir.remove(0, 1);
-    while (kinovra.DataDir.endsWith(u' '))
-        kinovra.DataDir.chop(1);
-    if (kinovra.DataDir.endsWith(u'\\'))
-        kinovra.DataDir.chop(1);
-    attempt([&] { browser::openDirectory(panel, kinovra.DataDir); });
+    attempt([&panel] { panel.platform.files.changeDrive(panel.kinovra.DataDir); });
+    attempt([&panel] { panel.platform.files.changeDirectory(panel.kinovra.DataDir); });
+    attempt([&panel] { panel.frm.drvDrives.choose(panel.kinovra.DataDir); });
+    QString &directory = panel.kinovra.DataDir;
+    while (directory.startsWith(u' '))
+        directory.remove(0, 1);
+    while (directory.endsWith(u' '))
+        directory.chop(1);
+    if (directory.endsWith(u'\\'))
+        directory.chop(1);
+    attempt([&panel] { browser::openDirectory(panel, panel.kinovra.DataDir); });
 }
 
 void openGraphTypes(Panel &panel)

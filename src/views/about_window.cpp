@@ -3,7 +3,6 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QTimer>
 #include <QVBoxLayout>
 
 namespace views {
@@ -51,7 +50,8 @@ void AboutWindow::followVisible()
     if (!about_.Visible)
         hide();
     else
-        QTimer::singleShot(0, this, [this] { setVisible(about_.Visible); });
+        QMetaObject::invokeMethod(
+            this, [this] { setVisible(about_.Visible); }, Qt::QueuedConnection);
 }
 
 void AboutWindow::showEvent(QShowEvent *event)

@@ -7,7 +7,6 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QScopedValueRollback>
-#include <QTimer>
 
 namespace views {
 
@@ -96,7 +95,8 @@ void Menus::bindMenu(QMenu *menu, size_t menuRow)
     });
     connect(menu, &QMenu::aboutToHide, this, [this] {
         passing_ = true;
-        QTimer::singleShot(0, this, [this] { passing_ = false; });
+        QMetaObject::invokeMethod(
+            this, [this] { passing_ = false; }, Qt::QueuedConnection);
     });
 }
 
@@ -112,7 +112,8 @@ void Menus::opens(QMenu *menu, controls::MenuItem &item)
     if (passing_)
         return;
     // Not from here: the menu is about to appear, and must be closed again before the box is shown.
-    QTimer::singleShot(0, menu, [this, menu, &item] { asks(menu, item); });
+    QMetaObject::invokeMethod(
+        menu, [this, menu, &item] { asks(menu, item); }, Qt::QueuedConnection);
 }
 
 void Menus::asks(QMenu *menu, controls::MenuItem &item)

@@ -1,7 +1,6 @@
 #include "views/shared_place.h"
 
 #include <QEvent>
-#include <QTimer>
 
 namespace views {
 
@@ -19,7 +18,7 @@ bool SharedPlace::eventFilter(QObject *watched, QEvent *event)
     if (isHidden && (focusLost_ || watched == window()->focusWidget())) {
         focusLost_ = false;
         // Once the others have appeared.
-        QTimer::singleShot(0, this, [this] { passFocusOn(); });
+        QMetaObject::invokeMethod(this, &SharedPlace::passFocusOn, Qt::QueuedConnection);
     }
     return false;
 }

@@ -33,7 +33,7 @@ public:
 class MemoryWorld : public World
 {
 public:
-    MemoryWorld() { files_.addDirectory(base()); }
+    MemoryWorld() { files_.addDirectory(MemoryWorld::base()); }
     FileSystem &files() override { return files_; }
     QString base() override { return u"C:\\Some Place\\Base"_s; }
     void makeDirectory(const QString &name) override { files_.addDirectory(path(name)); }

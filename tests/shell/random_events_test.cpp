@@ -96,30 +96,30 @@ protected:
     {
         for (auto *list : {&frm.filDatafiles, &frm.filModels, &frm.filBinaries, &frm.filOutputs,
                            &frm.filPlots, &frm.filGraFiles})
-            events.push_back([this, list] { useList(*list); });
+            events.emplace_back([this, list] { useList(*list); });
         for (auto *button : {&frm.cmdEditGra, &frm.cmdSelectGra, &frm.cmdGraph, &frm.cmdForces, &frm.cmdGuide,
                              &frm.cmdSkelvo, &frm.cmdOndex, &frm.cmdEditor, &frm.cmdRefresh, &frm.cmdManual})
-            events.push_back([this, button] { click(*button); });
+            events.emplace_back([this, button] { click(*button); });
         for (const shell::MenuRow &row : shell::menuTree()) {
             if (row.isSeparator() || row.name == u"mnuExit")
                 continue;
             controls::MenuItem &item = row.item(frm);
             if (item.Click)
-                events.push_back([this, &item] { click(item); });
+                events.emplace_back([this, &item] { click(item); });
             if (item.Opening)
-                events.push_back([this, &item] { openMenu(item); });
+                events.emplace_back([this, &item] { openMenu(item); });
         }
-        events.push_back([this] { chooseDrive(); });
-        events.push_back([this] { openSomeRow(); });
-        events.push_back([this] { changeFiles(); });
-        events.push_back([this] { changeFiles(); });
-        events.push_back([this] { pressKey(); });
-        events.push_back([this] { resizeWindow(); });
-        events.push_back([this] { shell::dispatch(panel, frm.Activate); });
-        events.push_back([this] { shell::dispatch(panel, frm.DblClick); });
-        events.push_back([this] { endSomeProgram(); });
-        events.push_back([this] { planEventDuringPause(); });
-        events.push_back([this] { changeMachine(); });
+        events.emplace_back([this] { chooseDrive(); });
+        events.emplace_back([this] { openSomeRow(); });
+        events.emplace_back([this] { changeFiles(); });
+        events.emplace_back([this] { changeFiles(); });
+        events.emplace_back([this] { pressKey(); });
+        events.emplace_back([this] { resizeWindow(); });
+        events.emplace_back([this] { shell::dispatch(panel, frm.Activate); });
+        events.emplace_back([this] { shell::dispatch(panel, frm.DblClick); });
+        events.emplace_back([this] { endSomeProgram(); });
+        events.emplace_back([this] { planEventDuringPause(); });
+        events.emplace_back([this] { changeMachine(); });
     }
 
     void useList(controls::FileList &list)

@@ -85,7 +85,7 @@ void MemoryFileSystem::announce(const char *call) const
 
 QString MemoryFileSystem::absolute(const QString &path) const
 {
-    const QString result = current_.absolute(path);
+    QString result = current_.absolute(path);
     if (!nodes_.contains(UCase(result.left(3))))
         throw RuntimeError(ErrorNumber::DeviceUnavailable);
     return result;

@@ -77,7 +77,7 @@ std::optional<QString> RecordingDialogs::openFile(const platform::OpenFileReques
     requests.push_back(request);
     if (chosenFiles.empty())
         return std::nullopt;
-    const auto chosen = chosenFiles.front();
+    auto chosen = chosenFiles.front();
     chosenFiles.pop_front();
     return chosen;
 }

@@ -131,7 +131,7 @@ QByteArray findInPath(const QByteArray &name)
 {
     const QList<QByteArray> directories = qgetenv("PATH").split(':');
     for (const QByteArray &directory : directories) {
-        const QByteArray path = directory + '/' + name;
+        QByteArray path = directory + '/' + name;
         if (directory.startsWith('/') && !name.isEmpty() && !name.contains('/') && isExecutableFile(path))
             return path;
     }
@@ -154,7 +154,7 @@ std::optional<DesktopProgram> desktopProgram(const QString &accessory)
     }
     const QByteArray desktop = qgetenv("XDG_CURRENT_DESKTOP");
     if (!desktop.isEmpty()) {
-        if (const auto own = firstInstalled(row->candidates, desktop))
+        if (auto own = firstInstalled(row->candidates, desktop))
             return own;
     }
     return firstInstalled(row->candidates, QByteArray());
@@ -171,7 +171,7 @@ QByteArray findTerminal()
     if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
         return {};
     for (const char *terminal : Terminals) {
-        const QByteArray path = findInPath(terminal);
+        QByteArray path = findInPath(terminal);
         if (!path.isEmpty())
             return path;
     }

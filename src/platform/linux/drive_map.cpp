@@ -5,6 +5,7 @@
 #include "platform/path_language.h"
 
 #include <cstdlib>
+#include <utility>
 
 #include <dirent.h>
 #include <sys/stat.h>
@@ -32,7 +33,7 @@ QByteArray resolvedDirectory(const QByteArray &link)
 
 } // namespace
 
-DriveMap::DriveMap(const QByteArray &winePrefix) : winePrefix_(winePrefix)
+DriveMap::DriveMap(QByteArray winePrefix) : winePrefix_(std::move(winePrefix))
 {
     refresh();
 }

@@ -14,7 +14,7 @@ class DriveMap
 {
 public:
     /// `winePrefix` is the prefix's directory, empty for none.
-    explicit DriveMap(const QByteArray &winePrefix);
+    explicit DriveMap(QByteArray winePrefix);
 
     /// Reads the prefix's letters again.
     void refresh();

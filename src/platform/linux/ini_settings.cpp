@@ -4,9 +4,11 @@
 #include <QStringList>
 #include <QVariant>
 
+#include <utility>
+
 namespace platform::host {
 
-IniSettings::IniSettings(const QString &directory) : directory_(directory) {}
+IniSettings::IniSettings(QString directory) : directory_(std::move(directory)) {}
 
 QString IniSettings::read(const QString &application, const QString &section, const QString &key,
                           const QString &fallback)

@@ -10,7 +10,7 @@ class IniSettings : public Settings
 {
 public:
     /// `directory` is the configuration directory of the host.
-    explicit IniSettings(const QString &directory);
+    explicit IniSettings(QString directory);
 
     QString read(const QString &application, const QString &section, const QString &key,
                  const QString &fallback) override;

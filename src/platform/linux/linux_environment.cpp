@@ -60,7 +60,7 @@ QString panelForm(const QByteArray &argument, LinuxFileSystem &files)
     const bool isRelativePath =
         argument.contains('/') && !argument.startsWith('/') && !argument.startsWith('-');
     if (isRelativePath && !argument.endsWith('/')) {
-        const QString path = adoptFile(argument, files);
+        QString path = adoptFile(argument, files);
         if (!path.isNull())
             return path;
     }

@@ -22,7 +22,7 @@ namespace platform::host {
 
 namespace {
 
-constexpr qsizetype LongestLine = 64 * 1024;
+constexpr qsizetype LongestLine = 65'536;
 
 QByteArray processDirectory()
 {
@@ -210,7 +210,7 @@ QString LinuxFileSystem::panelForm(const QString &hostFile)
 
 QString LinuxFileSystem::adopt(const QByteArray &hostDirectory)
 {
-    const QString path = drives_.toPanel(hostDirectory);
+    QString path = drives_.toPanel(hostDirectory);
     lookup_.remember(path.at(0), hostDirectory);
     return path;
 }
@@ -231,7 +231,7 @@ std::optional<QByteArray> LinuxFileSystem::hostProgram(const QString &path)
 std::optional<QByteArray> LinuxFileSystem::hostDocument(const QString &path)
 {
     const QString absolute = current_.absolute(path);
-    if (const auto found = lookup_.findFile(absolute).hostPath)
+    if (auto found = lookup_.findFile(absolute).hostPath)
         return found;
     const auto directory = lookup_.find(parentOf(absolute));
     if (!directory)

@@ -9,6 +9,7 @@
 #include <array>
 #include <cerrno>
 #include <cstring>
+#include <utility>
 
 #include <unistd.h>
 
@@ -85,8 +86,10 @@ struct LinuxPrograms::Command
     double failureValue = FileNotFound;
 };
 
-LinuxPrograms::LinuxPrograms(LinuxFileSystem &files, const QByteArray &consoleHelper)
-    : files_(files), consoleHelper_(consoleHelper), reports_([this](int number, const Ending &ending) {
+LinuxPrograms::LinuxPrograms(LinuxFileSystem &files, QByteArray consoleHelper)
+    : files_(files)
+    , consoleHelper_(std::move(consoleHelper))
+    , reports_([this](int number, const Ending &ending) {
         if (inTerminals_.removeOne(number))
             tell(number, ending);
     })

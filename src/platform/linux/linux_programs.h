@@ -15,7 +15,7 @@ class LinuxPrograms : public Programs
 public:
     /// `consoleHelper` is the host's path of kinovra-console; without it a console program runs in the
     /// terminal alone.
-    LinuxPrograms(LinuxFileSystem &files, const QByteArray &consoleHelper);
+    LinuxPrograms(LinuxFileSystem &files, QByteArray consoleHelper);
 
     StartResult start(const Start &start) override;
 

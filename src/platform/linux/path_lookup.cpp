@@ -51,7 +51,7 @@ QByteArray joined(const QByteArray &hostDirectory, const QString &name)
 std::optional<QByteArray> PathLookup::find(const QString &path)
 {
     requireDrive(path);
-    const QByteArray literal = drives_.toHost(path);
+    QByteArray literal = drives_.toHost(path);
     if (exists(literal))
         return literal;
 
@@ -113,10 +113,10 @@ bool PathLookup::isInLastDirectory(QStringView path) const
 
 PathLookup::File PathLookup::findProgram(const QString &path)
 {
-    const File found = findFile(path);
+    File found = findFile(path);
     if (found.hostPath || !namesProgram(path))
         return found;
-    const File native = findFile(path.chopped(4));
+    File native = findFile(path.chopped(4));
     return native.hostPath && isExecutableFile(*native.hostPath) ? native : found;
 }
 
@@ -162,7 +162,7 @@ std::shared_ptr<PathLookup::Reading> PathLookup::listing(QChar drive, const QByt
 
 std::shared_ptr<PathLookup::Reading> PathLookup::readAnew(QChar drive, const QByteArray &hostDirectory)
 {
-    const auto reading = std::make_shared<Reading>();
+    auto reading = std::make_shared<Reading>();
     reading->hostPath = hostDirectory.isEmpty() ? QByteArray("/") : hostDirectory;
     reading->read = readDirectory(reading->hostPath, drives_.toPanel(drive, hostDirectory));
     reading->moment = moment_;

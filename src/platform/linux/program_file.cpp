@@ -12,7 +12,7 @@ namespace platform::host {
 
 namespace {
 
-constexpr size_t HeaderSize = 16 * 1024;
+constexpr size_t HeaderSize = 16'384;
 
 template <typename T>
 T littleEndian(QByteArrayView bytes, qsizetype offset)

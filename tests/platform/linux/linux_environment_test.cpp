@@ -95,7 +95,7 @@ TEST_F(LinuxCommandLine, and_variables_are_in_the_path_language)
         EXPECT_EQ(environment.variable(u"KINOVRA"_s), base + u"\\data"_s);
     }
     {
-        const support::ScopedVariable variable("KINOVRA", "Z:\\opt\\kv\\");
+        const support::ScopedVariable variable("KINOVRA", R"(Z:\opt\kv\)");
         EXPECT_EQ(environment.variable(u"KINOVRA"_s), u"Z:\\opt\\kv"_s);
     }
     {

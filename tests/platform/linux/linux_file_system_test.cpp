@@ -200,7 +200,7 @@ TEST_F(LinuxFiles, read_titles_of_any_kind)
     scratch.makeFile("cp1252.dg", "L\xE4ufer \x96 \x80 5\n");
     scratch.makeFile("dos.dg", "Title\x1Aold garbage\n");
     scratch.makeFile("ended.dg", "\x1A");
-    scratch.makeFile("huge.dg", QByteArray(10 * 1024 * 1024, 'x'));
+    scratch.makeFile("huge.dg", QByteArray(10'000'000, 'x'));
     scratch.makeFile("wide.dg", QByteArray("x") + QByteArray("\xC3\xA4").repeated(100'000));
     scratch.makeFile("binary.dg", QByteArray("\x00\x01\x02\xFF\x1B[31m\n", 10));
     EXPECT_EQ(files.firstLine(at(u"bom.dg"_s)), u"Title"_s);

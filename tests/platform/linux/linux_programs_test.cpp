@@ -26,7 +26,6 @@ using platform::Start;
 using platform::StartResult;
 using platform::host::LinuxFileSystem;
 using platform::host::LinuxPrograms;
-using testing::ElementsAre;
 
 namespace {
 
@@ -71,6 +70,21 @@ protected:
         EXPECT_EQ(result.failure, QString());
         waitForEnd();
         return record();
+    }
+
+    void expectThatEndingsAreTold()
+    {
+        const Start start = open(at(u"Program Files\\Kinemati.exe"_s), u"x"_s);
+        {
+            const support::ScopedVariable code("ECHO_EXIT", "3");
+            run(start);
+            EXPECT_EQ(ends.back().ending.kind, Ending::Kind::Exited);
+            EXPECT_EQ(ends.back().ending.code, 3);
+        }
+        const support::ScopedVariable code("ECHO_EXIT", "abort");
+        run(start);
+        EXPECT_EQ(ends.back().ending.kind, Ending::Kind::Crashed);
+        EXPECT_EQ(ends.back().ending.code, SIGABRT);
     }
 
     void waitForEnd()
@@ -161,16 +175,7 @@ TEST_F(LinuxStarts, pass_names_that_are_no_text)
 
 TEST_F(LinuxStarts, tell_exit_codes_and_crashes)
 {
-    {
-        const support::ScopedVariable code("ECHO_EXIT", "3");
-        run(open(at(u"Program Files\\Kinemati.exe"_s), u"x"_s));
-        EXPECT_EQ(ends.back().ending.kind, Ending::Kind::Exited);
-        EXPECT_EQ(ends.back().ending.code, 3);
-    }
-    const support::ScopedVariable code("ECHO_EXIT", "abort");
-    run(open(at(u"Program Files\\Kinemati.exe"_s), u"x"_s));
-    EXPECT_EQ(ends.back().ending.kind, Ending::Kind::Crashed);
-    EXPECT_EQ(ends.back().ending.code, SIGABRT);
+    expectThatEndingsAreTold();
 }
 
 TEST_F(LinuxStarts, say_why_nothing_was_started)
@@ -323,16 +328,7 @@ TEST_F(LinuxTerminals, show_console_programs)
 
 TEST_F(LinuxTerminals, let_exit_codes_and_crashes_be_known)
 {
-    {
-        const support::ScopedVariable code("ECHO_EXIT", "3");
-        run(open(at(u"Program Files\\Kinemati.exe"_s), u"x"_s));
-        EXPECT_EQ(ends.back().ending.kind, Ending::Kind::Exited);
-        EXPECT_EQ(ends.back().ending.code, 3);
-    }
-    const support::ScopedVariable code("ECHO_EXIT", "abort");
-    run(open(at(u"Program Files\\Kinemati.exe"_s), u"x"_s));
-    EXPECT_EQ(ends.back().ending.kind, Ending::Kind::Crashed);
-    EXPECT_EQ(ends.back().ending.code, SIGABRT);
+    expectThatEndingsAreTold();
     EXPECT_EQ(ends.size(), 2U);
 }
 
