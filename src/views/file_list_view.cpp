@@ -90,6 +90,13 @@ void FileListView::focusInEvent(QFocusEvent *event)
     ClassicList::focusInEvent(event);
 }
 
+// A key that is still down will be released elsewhere.
+void FileListView::focusOutEvent(QFocusEvent *event)
+{
+    arrowKeyIsUp();
+    ClassicList::focusOutEvent(event);
+}
+
 void FileListView::keyPressEvent(QKeyEvent *event)
 {
     if (isEnter(event)) {
@@ -121,12 +128,16 @@ void FileListView::keyPressEvent(QKeyEvent *event)
 
 void FileListView::keyReleaseEvent(QKeyEvent *event)
 {
-    if (!event->isAutoRepeat()) {
-        keyDown_ = false;
-        if (heldBack_)
-            rest_.start(RestTime, this);
-    }
+    if (!event->isAutoRepeat())
+        arrowKeyIsUp();
     ClassicList::keyReleaseEvent(event);
+}
+
+void FileListView::arrowKeyIsUp()
+{
+    keyDown_ = false;
+    if (heldBack_)
+        rest_.start(RestTime, this);
 }
 
 void FileListView::holdBackClick()

@@ -28,9 +28,13 @@ public:
     FileListView(controls::FileList &list, EventRunner &events, FileListManners manners = {},
                  QWidget *parent = nullptr);
 
+    /// Whether an arrow key has come to rest on a row and will click it in a moment.
+    bool isAboutToClick() const { return rest_.isActive(); }
+
 protected:
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
@@ -47,6 +51,7 @@ private:
     void press(QMouseEvent *event, bool twice);
     void selectByUser(int row);
     void holdBackClick();
+    void arrowKeyIsUp();
     void runHeldBack();
 
     controls::FileList &list_;

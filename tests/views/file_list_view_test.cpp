@@ -1,12 +1,21 @@
 #include "printing.h"
 #include "view_fixture.h"
+#include "views/file_list_view.h"
 
 #include <QScrollBar>
 #include <QTest>
-#include <QTimer>
 
 using namespace Qt::StringLiterals;
 using support::waitUntil;
+
+namespace {
+
+bool isAboutToClick(const QListView *view)
+{
+    return qobject_cast<const views::FileListView *>(view)->isAboutToClick();
+}
+
+} // namespace
 
 class FileListViews : public support::ViewFixture
 {
@@ -154,11 +163,18 @@ TEST_F(FileListViews, do_not_click_while_an_arrow_key_is_held)
 {
     datafiles()->setFocus(Qt::TabFocusReason);
     QTest::keyPress(datafiles(), Qt::Key_Down);
-    bool waited = false;
-    QTimer::singleShot(400, [&waited] { waited = true; });
-    EXPECT_TRUE(waitUntil([&waited] { return waited; }));
+    EXPECT_FALSE(isAboutToClick(datafiles()));
     EXPECT_EQ(datafileClicks, 0);
     QTest::keyRelease(datafiles(), Qt::Key_Down);
+    EXPECT_TRUE(waitUntil([this] { return datafileClicks == 1; }));
+    EXPECT_EQ(kinovra.CurrentTrial, u"a"_s);
+}
+
+TEST_F(FileListViews, click_where_they_are_left_with_an_arrow_key_still_down)
+{
+    datafiles()->setFocus(Qt::TabFocusReason);
+    QTest::keyPress(datafiles(), Qt::Key_Down);
+    button(u"Exit"_s)->setFocus(Qt::TabFocusReason);
     EXPECT_TRUE(waitUntil([this] { return datafileClicks == 1; }));
     EXPECT_EQ(kinovra.CurrentTrial, u"a"_s);
 }
@@ -283,9 +299,7 @@ TEST_F(GraphTypes, are_only_highlighted_by_arrow_keys)
 {
     QTest::keyClick(types(), Qt::Key_Down);
     QTest::keyClick(types(), Qt::Key_Down);
-    bool waited = false;
-    QTimer::singleShot(400, [&waited] { waited = true; });
-    EXPECT_TRUE(waitUntil([&waited] { return waited; }));
+    EXPECT_FALSE(isAboutToClick(types()));
     EXPECT_TRUE(types()->isVisible());
     EXPECT_EQ(frm.CurrentGRA, u"RUN.GRA"_s);
 }
