@@ -31,6 +31,9 @@ QString endingText(const RunningProgram &program, const Ending &ending)
 {
     if (ending.kind == Ending::Kind::Crashed)
         return u"%1 was stopped by an error (signal %2)."_s.arg(program.name, QString::number(ending.code));
+    if (ending.kind == Ending::Kind::TerminalFailed)
+        return u"%1 may not have run: its terminal ended with error %2."_s.arg(program.name,
+                                                                               QString::number(ending.code));
     if (ending.code != 0)
         return u"%1 ended with error %2."_s.arg(program.name, QString::number(ending.code));
     return {};

@@ -340,6 +340,13 @@ TEST_F(ProgramEnds, by_a_crash_and_the_status_bar_says_so)
     EXPECT_EQ(said(), u"KINEMATI.EXE was stopped by an error (signal 11)."_s);
 }
 
+TEST_F(ProgramEnds, unseen_because_its_terminal_failed_and_the_status_bar_says_so)
+{
+    run();
+    end({Ending::Kind::TerminalFailed, 1});
+    EXPECT_EQ(said(), u"KINEMATI.EXE may not have run: its terminal ended with error 1."_s);
+}
+
 TEST_F(ProgramEnds, with_a_listing_that_is_ready)
 {
     run();

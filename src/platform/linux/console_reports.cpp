@@ -59,21 +59,23 @@ bool ConsoleReports::open()
         return false;
     socket_ = std::move(socket);
     notifier_ = std::make_unique<QSocketNotifier>(socket_.get(), QSocketNotifier::Read);
-    QObject::connect(notifier_.get(), &QSocketNotifier::activated, [this] { read(); });
+    QObject::connect(notifier_.get(), &QSocketNotifier::activated, [this] { receive(); });
     return true;
 }
 
 // A report is "number exit code" or "number signal number".
-void ConsoleReports::read()
+void ConsoleReports::receive()
 {
     std::array<char, 128> buffer{};
-    const ssize_t size = ::recv(socket_.get(), buffer.data(), buffer.size(), 0);
-    if (size <= 0)
-        return;
-    const QList<QByteArray> words = QByteArray(buffer.data(), size).split(' ');
-    if (words.size() == 3) {
-        const auto kind = words[1] == "signal" ? Ending::Kind::Crashed : Ending::Kind::Exited;
-        ended_(words[0].toInt(), {kind, words[2].toInt()});
+    for (;;) {
+        const ssize_t size = ::recv(socket_.get(), buffer.data(), buffer.size(), 0);
+        if (size < 0)
+            return;
+        const QList<QByteArray> words = QByteArray(buffer.data(), size).split(' ');
+        if (words.size() == 3) {
+            const auto kind = words[1] == "signal" ? Ending::Kind::Crashed : Ending::Kind::Exited;
+            ended_(words[0].toInt(), {kind, words[2].toInt()});
+        }
     }
 }
 

@@ -26,9 +26,11 @@ public:
     /// The path of the socket; empty where it cannot be made.
     QByteArray address();
 
+    /// Takes the reports that have come already.
+    void receive();
+
 private:
     bool open();
-    void read();
 
     std::function<void(int, const Ending &)> ended_;
     QByteArray directory_;

@@ -113,8 +113,9 @@ StartResult LinuxPrograms::start(const Start &start)
         const bool inWindow = !terminal.isEmpty();
         const int error = starter_.start(inWindow ? inTerminal(command.arguments, value) : command.arguments,
                                          *directory, [this, value, inWindow](const Ending &ending) {
-                                             // A terminal's own end says nothing about the program in it.
-                                             if (!inWindow)
+                                             if (inWindow)
+                                                 terminalEnded(value, ending);
+                                             else
                                                  tell(value, ending);
                                          });
         if (error != 0)
@@ -204,6 +205,16 @@ QList<QByteArray> LinuxPrograms::inTerminal(const QList<QByteArray> &command, do
     for (const QByteArray &argument : command)
         arguments.append(decoded(argument));
     return encoded(terminalArguments(decoded(findTerminal()), arguments));
+}
+
+// A terminal's own end says nothing about the program in it, unless it failed before anything was reported: a
+// terminal that passes its window on to another process ends well and at once.
+void LinuxPrograms::terminalEnded(double value, const Ending &ending)
+{
+    const bool hasFailed = ending.kind != Ending::Kind::Exited || ending.code != 0;
+    reports_.receive();
+    if (hasFailed && inTerminals_.removeOne(value))
+        tell(value, {Ending::Kind::TerminalFailed, ending.code});
 }
 
 void LinuxPrograms::tell(double value, const Ending &ending)

@@ -27,6 +27,7 @@ private:
     Command programCommand(const Start &start, const QByteArray &directory, const QByteArray &program);
     QStringList documentArguments(const Start &start);
     QList<QByteArray> inTerminal(const QList<QByteArray> &command, double value);
+    void terminalEnded(double value, const Ending &ending);
     void tell(double value, const Ending &ending);
 
     LinuxFileSystem &files_;

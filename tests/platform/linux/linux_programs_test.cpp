@@ -332,6 +332,18 @@ TEST_F(LinuxTerminals, let_exit_codes_and_crashes_be_known)
     EXPECT_EQ(ends.size(), 2U);
 }
 
+TEST_F(LinuxTerminals, that_fail_are_not_taken_for_the_program)
+{
+    scratch.remove("bin/kitty");
+    scratch.makeLink("bin/kitty", "/bin/false");
+    result = programs.start(open(at(u"Program Files\\Kinemati.exe"_s), u"x"_s));
+    EXPECT_EQ(result.failure, QString());
+    waitForEnd();
+    EXPECT_EQ(ends.back().value, result.value);
+    EXPECT_EQ(ends.back().ending.kind, Ending::Kind::TerminalFailed);
+    EXPECT_EQ(ends.back().ending.code, 1);
+}
+
 TEST_F(LinuxTerminals, are_not_for_programs_with_windows_of_their_own)
 {
     scratch.remove("bin/kitty");
