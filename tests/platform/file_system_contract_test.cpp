@@ -221,6 +221,18 @@ TEST_P(FileSystemContract, changes_the_current_drive_by_its_letter)
     EXPECT_EQ(errorOf([&] { files.changeDrive(QString()); }), 5);
 }
 
+TEST_P(FileSystemContract, falls_back_on_the_root_of_a_drive_whose_current_directory_has_gone)
+{
+    world->makeDirectory(u"gone"_s);
+    files.changeDrive(world->base());
+    files.changeDirectory(at(u"gone"_s));
+    world->remove(u"gone"_s);
+    EXPECT_EQ(errorOf([&] { files.changeDrive(world->base()); }), 0);
+    EXPECT_EQ(files.currentDirectory(), world->base().left(3));
+    EXPECT_EQ(errorOf([&] { files.changeDirectory(world->base()); }), 0);
+    EXPECT_EQ(files.currentDirectory(), world->base());
+}
+
 TEST_P(FileSystemContract, accepts_drive_texts_as_paths_and_in_front_of_them)
 {
     world->makeFile(u"run1.dg"_s, "Run\n");

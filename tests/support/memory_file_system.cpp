@@ -115,6 +115,9 @@ void MemoryFileSystem::changeDrive(const QString &drive)
         throw RuntimeError(ErrorNumber::InvalidProcedureCall);
     if (find(platform::rootOf(letter)) == nullptr)
         throw RuntimeError(ErrorNumber::DeviceUnavailable);
+    const Node *kept = find(current_.of(letter));
+    if (kept == nullptr || kept->error)
+        current_.set(platform::rootOf(letter));
     current_.setDrive(letter);
 }
 

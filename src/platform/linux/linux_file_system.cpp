@@ -112,10 +112,12 @@ void LinuxFileSystem::changeDrive(const QString &drive)
     if (!drives_.contains(letter))
         throw RuntimeError(ErrorNumber::DeviceUnavailable);
     const auto directory = lookup_.find(current_.of(letter));
-    if (!directory)
-        throw RuntimeError(ErrorNumber::PathNotFound);
-    if (::chdir(directory->constData()) != 0)
-        raise(errno);
+    if (!directory || ::chdir(directory->constData()) != 0) {
+        // The drive's directory has gone; that must not keep anybody from the drive.
+        if (::chdir(drives_.toHost(rootOf(letter)).constData()) != 0)
+            raise(errno);
+        current_.set(rootOf(letter));
+    }
     current_.setDrive(letter);
 }
 
