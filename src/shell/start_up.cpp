@@ -187,17 +187,19 @@ QString headerText(const Kinovra &kinovra)
 }
 
 // The command line's file wins over a single model that the directory list has just made the trial.
-void chooseFirstTrial(Panel &panel, const QString &commandLineFile)
+// `argument` is as the command line gave it.
+void chooseFirstTrial(Panel &panel, const QString &argument)
 {
     auto [kinovra, frm, platform] = panel.parts();
 
-    if (!commandLineFile.isEmpty())
-        kinovra.SelectedFile = commandLineFile;
-    kinovra.Answer = TestFile(panel, kinovra.DataDir, commandLineFile, Silent);
+    const QString file = platform::nameOf(argument);
+    if (!argument.isEmpty())
+        kinovra.SelectedFile = file;
+    kinovra.Answer = TestFile(panel, kinovra.DataDir, file, Silent);
     if (kinovra.Answer == 0) {
-        kinovra.CurrentTrial = FileTitle(commandLineFile);
-        kinovra.CurrentExtension = GetExtension(commandLineFile);
-    } else if (commandLineFile != u";" && commandLineFile != u"?") {
+        kinovra.CurrentTrial = FileTitle(file);
+        kinovra.CurrentExtension = GetExtension(file);
+    } else if (argument != u";" && argument != u"?") {
         ShowSplash(panel, 3);
         if (panel.about.ToFront)
             panel.about.ToFront();
@@ -234,7 +236,7 @@ void Form_Load(Panel &panel)
     fillDrives(panel);
     readSettings(panel);
     readCommandLine(panel);
-    const QString commandLineFile = platform::nameOf(kinovra.SelectedFile);
+    const QString argument = kinovra.SelectedFile;
     chooseTextViewer(panel);
     findProgramDirectory(panel);
     checkTextViewer(panel);
@@ -251,7 +253,7 @@ void Form_Load(Panel &panel)
     kinovra.HeaderText = headerText(kinovra);
     launcher::checkPresence(panel);
     frm.dlgOpen.InitDir = kinovra.DataDir;
-    chooseFirstTrial(panel, commandLineFile);
+    chooseFirstTrial(panel, argument);
     frm.lblTrial.Caption = UCase(kinovra.CurrentTrial);
     frm.lblPath.Caption = LCase(kinovra.DataDir);
     frm.lblOutput.Caption = UCase(kinovra.ListingDevice);

@@ -28,12 +28,19 @@ QByteArray directoryPart(const QByteArray &hostPath)
     return slash < 0 ? QByteArray(".") : slash == 0 ? QByteArray("/") : hostPath.left(slash);
 }
 
+// The absolute path of something that is there; empty where it is not.
+QByteArray realPath(const QByteArray &hostPath)
+{
+    char *resolved = ::realpath(hostPath.constData(), nullptr);
+    QByteArray path(resolved);
+    std::free(resolved); // NOLINT(cppcoreguidelines-no-malloc): realpath's own contract
+    return path;
+}
+
 // The absolute path of a file of the host, whose directory exists; null where it does not.
 QString adoptFile(const QByteArray &hostPath, LinuxFileSystem &files)
 {
-    char *resolved = ::realpath(directoryPart(hostPath).constData(), nullptr);
-    const QByteArray directory(resolved);
-    std::free(resolved); // NOLINT(cppcoreguidelines-no-malloc): realpath's own contract
+    const QByteArray directory = realPath(directoryPart(hostPath));
     if (directory.isEmpty())
         return {};
     return joinPath(files.adopt(directory), fromHostName(hostPath.mid(hostPath.lastIndexOf('/') + 1)));
@@ -53,19 +60,26 @@ QString absolutePanelPath(const QString &argument, LinuxFileSystem &files)
     }
 }
 
+// A file name, with or without directories, and not an absolute path, a switch, or one of the two names that
+// ask for a start without a splash.
+bool isRelative(const QByteArray &argument)
+{
+    const bool isSpecial = argument.isEmpty() || argument == ";" || argument == "?";
+    return !isSpecial && !argument.startsWith('/') && !argument.startsWith('-') && !argument.endsWith('/')
+           && !argument.contains('\\') && !argument.contains(':');
+}
+
 QString panelForm(const QByteArray &argument, LinuxFileSystem &files)
 {
     if (isRegularFile(argument))
         return adoptFile(argument, files);
-    const bool isRelativePath =
-        argument.contains('/') && !argument.startsWith('/') && !argument.startsWith('-');
-    if (isRelativePath && !argument.endsWith('/')) {
-        QString path = adoptFile(argument, files);
+    if (isRelative(argument)) {
+        const QString path = adoptFile(argument, files);
         if (!path.isNull())
             return path;
     }
-    const QString text = QString::fromUtf8(argument);
-    const QString path = absolutePanelPath(text, files);
+    QString text = QString::fromUtf8(argument);
+    QString path = absolutePanelPath(text, files);
     return path.isNull() ? text : path;
 }
 
@@ -91,7 +105,10 @@ QString LinuxEnvironment::variable(const QString &name)
     QByteArray value = qgetenv(name.toUtf8().constData());
     while (value.size() > 1 && (value.endsWith('/') || value.endsWith('\\')))
         value.chop(1);
-    return value.startsWith('/') ? files_.adopt(value) : QString::fromUtf8(value);
+    if (value.startsWith('/'))
+        return files_.adopt(value);
+    const QByteArray directory = value.contains('/') ? realPath(value) : QByteArray();
+    return directory.isEmpty() ? QString::fromUtf8(value) : files_.adopt(directory);
 }
 
 QString LinuxEnvironment::programFolder()

@@ -56,20 +56,26 @@ TEST_F(LinuxCommandLine, makes_a_relative_file_absolute_where_its_directory_exis
     EXPECT_EQ(line({"nowhere\\run1.dg"}), u"nowhere\\run1.dg"_s);
 }
 
+TEST_F(LinuxCommandLine, takes_a_bare_name_for_one_in_the_current_directory)
+{
+    EXPECT_EQ(line({"missing.dg"}), base + u"\\missing.dg"_s);
+    EXPECT_EQ(line({"BARE.DG"}), base + u"\\BARE.DG"_s);
+    EXPECT_EQ(files.testReading(base + u"\\BARE.DG"_s), 0);
+    EXPECT_EQ(line({"data/RUN1.DG"}), base + u"\\data\\RUN1.DG"_s);
+}
+
 TEST_F(LinuxCommandLine, leaves_everything_else_as_it_stands)
 {
     EXPECT_EQ(line({}), QString());
     EXPECT_EQ(line({"/x", "-v", ";", "?"}), u"/x -v ; ?"_s);
-    EXPECT_EQ(line({"missing.dg"}), u"missing.dg"_s);
     EXPECT_EQ(line({"/no/such/file.dg"}), u"/no/such/file.dg"_s);
-    EXPECT_EQ(line({"data"}), u"data"_s);
     EXPECT_EQ(line({"Z:\\data\\run1.dg"}), u"Z:\\data\\run1.dg"_s);
 }
 
 TEST_F(LinuxCommandLine, quotes_arguments_with_blanks)
 {
     EXPECT_EQ(line({"data/my walk.dg", "/x"}), u'"' + base + u"\\data\\my walk.dg\" /x"_s);
-    EXPECT_EQ(line({"a b", "c\td", ""}), u"\"a b\" \"c\td\" \"\""_s);
+    EXPECT_EQ(line({"/a b", "-c\td", ""}), u"\"/a b\" \"-c\td\" \"\""_s);
 }
 
 TEST_F(LinuxCommandLine, cannot_be_broken_by_a_quote_in_a_name)
@@ -92,6 +98,10 @@ TEST_F(LinuxCommandLine, and_variables_are_in_the_path_language)
     LinuxEnvironment environment({}, files);
     {
         const support::ScopedVariable variable("KINOVRA", scratch.path("data/"));
+        EXPECT_EQ(environment.variable(u"KINOVRA"_s), base + u"\\data"_s);
+    }
+    {
+        const support::ScopedVariable variable("KINOVRA", "./data/");
         EXPECT_EQ(environment.variable(u"KINOVRA"_s), base + u"\\data"_s);
     }
     {
