@@ -24,7 +24,10 @@ QString bannerLines(QString banner)
 } // namespace
 
 AboutWindow::AboutWindow(EventRunner &events, QWidget *mainWindow)
-    : QDialog(mainWindow), events_(events), about_(events.panel().about)
+    : QDialog(mainWindow)
+    , events_(events)
+    , about_(events.panel().about)
+    , activation_(this, [this] { events_.run(about_.Activate); })
 {
     auto *rows = new QVBoxLayout(this);
     rows->setContentsMargins(Margin, Margin, Margin, Margin);
@@ -56,7 +59,6 @@ void AboutWindow::followVisible()
 
 void AboutWindow::showEvent(QShowEvent *event)
 {
-    events_.run(about_.Activate);
     adjustSize();
     QDialog::showEvent(event);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/about_window.h"
+#include "views/activation.h"
 #include "views/bindings.h"
 
 #include <QDialog>
@@ -27,6 +28,7 @@ private:
     EventRunner &events_;
     shell::frmAbout &about_;
     Bindings bindings_;
+    Activation activation_;
 };
 
 } // namespace views

@@ -1,9 +1,12 @@
 #include "views/classic_list.h"
 
 #include "views/row_delegate.h"
+#include "views/tool_tips.h"
 
 #include <QEvent>
+#include <QHelpEvent>
 #include <QPainter>
+#include <QToolTip>
 
 namespace views {
 
@@ -25,6 +28,19 @@ bool ClassicList::event(QEvent *event)
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }
     return handled;
+}
+
+bool ClassicList::viewportEvent(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        const auto *help = static_cast<QHelpEvent *>(event);
+        const QModelIndex row = indexAt(help->pos());
+        if (row.isValid() && sizeHintForIndex(row).width() > viewport()->width()) {
+            QToolTip::showText(help->globalPos(), plainToolTip(row.data().toString()), viewport());
+            return true;
+        }
+    }
+    return QListView::viewportEvent(event);
 }
 
 void ClassicList::focusInEvent(QFocusEvent *event)

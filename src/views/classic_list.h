@@ -4,8 +4,8 @@
 
 namespace views {
 
-/// What the lists of the panel share: rows of one height, no editing, and a frame that shows which list has
-/// the focus.
+/// What the lists of the panel share: rows of one height, no editing, a frame that shows which list has the
+/// focus, and a tool tip with the whole name where there is no room for it.
 class ClassicList : public QListView
 {
     Q_OBJECT
@@ -18,6 +18,7 @@ public:
 
 protected:
     bool event(QEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
 };

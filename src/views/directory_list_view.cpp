@@ -41,7 +41,6 @@ QVariant DirectoryRowsModel::data(const QModelIndex &index, int role) const
     switch (role) {
     case Qt::DisplayRole:
     case Qt::AccessibleTextRole:
-    case Qt::ToolTipRole:
         return platform::displayText(list_.RowText(index.row()));
     case IndentRole:
         return list_.RowLevel(index.row()) * IndentPerLevel;

@@ -1,5 +1,7 @@
 #include "views/elided_label.h"
 
+#include "views/tool_tips.h"
+
 #include <QEvent>
 #include <QHelpEvent>
 #include <QStyle>
@@ -34,7 +36,7 @@ bool ElidedLabel::event(QEvent *event)
 {
     if (event->type() == QEvent::ToolTip && shownText() != text()) {
         QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
-                           text().left(MostMeasured).toHtmlEscaped(), this);
+                           plainToolTip(text().left(MostMeasured)), this);
         return true;
     }
     return QLabel::event(event);

@@ -14,7 +14,6 @@ namespace {
 constexpr int HelpKey = 47;
 constexpr int QuestionMark = 63;
 constexpr int F1 = 112;
-constexpr int SlashKey = 191;
 
 // The classic code of a key; letters and digits have their own.
 int keyCodeOf(int key)
@@ -24,8 +23,6 @@ int keyCodeOf(int key)
         return HelpKey;
     case Qt::Key_Question:
         return QuestionMark;
-    case Qt::Key_Slash:
-        return SlashKey;
     default:
         break;
     }
@@ -67,19 +64,28 @@ bool KeyPreview::eventFilter(QObject *watched, QEvent *event)
     return false;
 }
 
+// A shifted key may have another name by the time of its release; the place on the keyboard is the same.
+std::vector<KeyPreview::Pressed>::iterator KeyPreview::find(const QKeyEvent *event)
+{
+    return std::find_if(pressed_.begin(), pressed_.end(), [event](const Pressed &key) {
+        return event->nativeScanCode() != 0 ? key.scanCode == event->nativeScanCode()
+                                            : key.key == event->key();
+    });
+}
+
 void KeyPreview::pressed(const QKeyEvent *event)
 {
+    // Its last release may have gone elsewhere.
+    const auto before = find(event);
+    if (before != pressed_.end())
+        pressed_.erase(before);
     pressed_.push_back(
         {event->nativeScanCode(), event->key(), keyCodeOf(event->key()), shiftOf(event->modifiers())});
 }
 
 void KeyPreview::released(const QKeyEvent *event)
 {
-    // A shifted key may have another name by now; the place on the keyboard is the same.
-    const auto found = std::find_if(pressed_.begin(), pressed_.end(), [event](const Pressed &key) {
-        return event->nativeScanCode() != 0 ? key.scanCode == event->nativeScanCode()
-                                            : key.key == event->key();
-    });
+    const auto found = find(event);
     if (found == pressed_.end())
         return;
     const Pressed key = *found;

@@ -31,6 +31,7 @@ private:
         int shift;
     };
 
+    std::vector<Pressed>::iterator find(const QKeyEvent *event);
     void pressed(const QKeyEvent *event);
     void released(const QKeyEvent *event);
 

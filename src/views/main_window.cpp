@@ -1,5 +1,6 @@
 #include "views/main_window.h"
 
+#include "platform/display_text.h"
 #include "views/directory_list_view.h"
 #include "views/drive_box.h"
 #include "views/elided_label.h"
@@ -16,6 +17,7 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QScopedValueRollback>
+#include <QScreen>
 #include <QStatusBar>
 #include <QVBoxLayout>
 
@@ -44,9 +46,11 @@ ElidedLabel *makeValue(Qt::TextElideMode mode)
     return new ElidedLabel(mode);
 }
 
-QLabel *makeCaption(const QString &text)
+// A screen reader speaks the caption with the value.
+QLabel *makeCaption(const QString &text, QWidget *value)
 {
     auto *label = new QLabel(text);
+    label->setBuddy(value);
     label->setTextFormat(Qt::PlainText);
     label->setForegroundRole(QPalette::WindowText);
     return label;
@@ -54,7 +58,8 @@ QLabel *makeCaption(const QString &text)
 
 } // namespace
 
-MainWindow::MainWindow(EventRunner &events) : events_(events), frm_(events.panel().frm)
+MainWindow::MainWindow(EventRunner &events)
+    : events_(events), frm_(events.panel().frm), activation_(this, [this] { events_.run(frm_.Activate); })
 {
     setMenuBar(new QMenuBar);
     menus_ = new Menus(menuBar(), events_);
@@ -65,6 +70,13 @@ MainWindow::MainWindow(EventRunner &events) : events_(events), frm_(events.panel
     fitFont();
     bindWindow();
     datafiles_->setFocus();
+}
+
+void MainWindow::load()
+{
+    activation_.beginLoading();
+    events_.run(frm_.Load);
+    activation_.endLoading();
 }
 
 QWidget *MainWindow::makeCentre()
@@ -92,11 +104,9 @@ QLayout *MainWindow::makeWhereAmI()
     drives->setAccessibleName(u"Drive"_s);
     drives->setFixedWidth(DirectoryColumn);
     auto *path = makeValue(Qt::ElideMiddle);
-    const QString caption = u"Current path:"_s;
     bindings_.bind(path, frm_.lblPath);
-    path->setAccessibleName(caption);
     row->addWidget(drives);
-    row->addWidget(makeCaption(caption));
+    row->addWidget(makeCaption(u"Current path:"_s, path));
     row->addWidget(path, 1);
     return row;
 }
@@ -192,8 +202,7 @@ QWidget *MainWindow::addChosen(QGridLayout *grid, int row, int column, const QSt
 {
     auto *widget = makeValue(Qt::ElideRight);
     bindings_.bind(widget, value);
-    widget->setAccessibleName(spoken(caption));
-    grid->addWidget(makeCaption(caption), row, column);
+    grid->addWidget(makeCaption(caption, widget), row, column);
     grid->addWidget(widget, row, column + 1);
     return widget;
 }
@@ -230,8 +239,8 @@ void MainWindow::makeStatusBar()
     auto &bar = frm_.StatusBar1;
     statusBar()->addWidget(voice, 1);
     statusBar()->addPermanentWidget(version);
-    bindings_.follow(bar.Panel1, [voice, &bar] { voice->setText(bar.Panel1); });
-    bindings_.follow(bar.Panel2, [version, &bar] { version->setText(bar.Panel2); });
+    bindings_.follow(bar.Panel1, [voice, &bar] { voice->setText(platform::displayText(bar.Panel1)); });
+    bindings_.follow(bar.Panel2, [version, &bar] { version->setText(platform::displayText(bar.Panel2)); });
 }
 
 // Where a menu and a button share an access key, the menu wins.
@@ -253,7 +262,11 @@ void MainWindow::bindWindow()
     frm_.hWnd = static_cast<qint64>(winId());
 
     bindings_.follow(frm_.Caption, [this] { setWindowTitle(frm_.Caption); });
-    const auto place = [this] { move(toPixels(frm_.Left), toPixels(frm_.Top)); };
+    const auto place = [this] {
+        const QScreen *screen = QGuiApplication::primaryScreen();
+        const QPoint origin = screen ? screen->geometry().topLeft() : QPoint();
+        move(origin + QPoint(toPixels(frm_.Left), toPixels(frm_.Top)));
+    };
     bindings_.follow(frm_.Left, place);
     bindings_.follow(frm_.Top, place);
     bindings_.follow(frm_.Height, [this] {
@@ -267,13 +280,22 @@ void MainWindow::bindWindow()
 // The desktop's font, made smaller only where a caption would not fit.
 void MainWindow::fitFont()
 {
-    QFont fitted = QApplication::font();
-    while (!fits() && fitted.pointSizeF() > SmallestFont) {
-        fitted.setPointSizeF(fitted.pointSizeF() - 0.5);
-        setFont(fitted);
-        menuBar()->setFont(fitted);
-        statusBar()->setFont(fitted);
+    // A font may have its size in pixels.
+    qreal size = QFontInfo(QApplication::font()).pointSizeF();
+    useFont(QFont());
+    while (!fits() && size > SmallestFont) {
+        size -= 0.5;
+        QFont fitted = QApplication::font();
+        fitted.setPointSizeF(size);
+        useFont(fitted);
     }
+}
+
+void MainWindow::useFont(const QFont &font)
+{
+    setFont(font);
+    menuBar()->setFont(font);
+    statusBar()->setFont(font);
 }
 
 bool MainWindow::fits() const
@@ -292,16 +314,10 @@ bool MainWindow::fits() const
 
 bool MainWindow::event(QEvent *event)
 {
-    if (event->type() == QEvent::WindowActivate)
-        events_.run(frm_.Activate);
-    return QMainWindow::event(event);
-}
-
-void MainWindow::changeEvent(QEvent *event)
-{
-    QMainWindow::changeEvent(event);
+    const bool handled = QMainWindow::event(event);
     if (event->type() == QEvent::ApplicationFontChange)
         fitFont();
+    return handled;
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/main_window.h"
+#include "views/activation.h"
 #include "views/bindings.h"
 
 #include <QMainWindow>
@@ -23,9 +24,11 @@ class MainWindow : public QMainWindow
 public:
     explicit MainWindow(EventRunner &events);
 
+    /// Loads the window: the panel starts.
+    void load();
+
 protected:
     bool event(QEvent *event) override;
-    void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
@@ -44,12 +47,14 @@ private:
     QPushButton *makeButton(controls::Button &button);
     void bindWindow();
     void fitFont();
+    void useFont(const QFont &font);
     bool fits() const;
     void leaveAccessKeysToMenus();
 
     EventRunner &events_;
     shell::frmKinovra &frm_;
     Bindings bindings_;
+    Activation activation_;
     Menus *menus_;
     FileListView *datafiles_ = nullptr;
     QList<QPushButton *> buttons_;

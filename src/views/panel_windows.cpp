@@ -26,7 +26,7 @@ PanelWindows::PanelWindows(shell::Panel &panel)
 
 void PanelWindows::load()
 {
-    events_.run(events_.panel().frm.Load);
+    mainWindow_.load();
 }
 
 } // namespace views

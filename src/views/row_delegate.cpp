@@ -22,7 +22,8 @@ QColor mixed(const QColor &a, const QColor &b)
 QSize RowDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     const QSize hint = QStyledItemDelegate::sizeHint(option, index);
-    return {hint.width(), std::max(hint.height(), option.fontMetrics.height() + Air)};
+    return {hint.width() + index.data(IndentRole).toInt(),
+            std::max(hint.height(), option.fontMetrics.height() + Air)};
 }
 
 void RowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const

@@ -4,11 +4,14 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
+#include <QHelpEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenuBar>
 #include <QSet>
 #include <QStatusBar>
 #include <QTest>
+#include <QToolTip>
 
 using namespace Qt::StringLiterals;
 using support::waitUntil;
@@ -22,14 +25,28 @@ protected:
         show();
     }
 
-    QLabel *value(const QString &caption) const
+    QLabel *labelThatReads(const QString &text) const
     {
         const auto labels = window().findChildren<QLabel *>();
         for (QLabel *label : labels) {
-            if (label->accessibleName() == caption)
+            if (label->text() == text)
                 return label;
         }
         return nullptr;
+    }
+
+    // What stands beside a fixed caption.
+    QLabel *value(const QString &caption) const
+    {
+        return qobject_cast<QLabel *>(labelThatReads(caption)->buddy());
+    }
+
+    static QString toolTipAt(QWidget *widget, const QPoint &position)
+    {
+        QToolTip::hideText();
+        QHelpEvent event(QEvent::ToolTip, position, widget->mapToGlobal(position));
+        QApplication::sendEvent(widget, &event);
+        return QToolTip::text();
     }
 
     void pressAndRelease(Qt::Key key, Qt::KeyboardModifiers modifiers)
@@ -81,6 +98,18 @@ TEST_F(MainWindowView, has_its_size)
     EXPECT_EQ(window().minimumWidth(), 673);
     EXPECT_EQ(window().maximumWidth(), 673);
     EXPECT_EQ(window().windowTitle(), u"Kinovra Motion Analysis System"_s);
+    EXPECT_EQ(window().y(), 20);
+    EXPECT_EQ(window().x(), (frm.Left + 7) / 15);
+    EXPECT_EQ(frm.Left.value(), (panel.screen.Width - 10100) / 2);
+}
+
+TEST_F(MainWindowView, snaps_back_to_its_width_and_its_least_height)
+{
+    window().resize(900, 300);
+    settle();
+    EXPECT_EQ(window().size(), QSize(673, 487));
+    EXPECT_EQ(frm.Width.value(), 10100);
+    EXPECT_EQ(frm.dirSelect.Height.value(), frm.Height - 3800);
 }
 
 TEST_F(MainWindowView, gives_the_directory_list_what_height_is_left)
@@ -125,6 +154,12 @@ TEST_F(MainWindowView, is_not_widened_by_long_text)
     EXPECT_LE(value(u"Title:"_s)->geometry().right(), window().width());
 }
 
+TEST_F(MainWindowView, speaks_in_its_status_bar_plainly)
+{
+    frm.StatusBar1.Panel1 = u"e\u202Egd.exe\n<b>x</b>"_s;
+    EXPECT_NE(labelThatReads(u"e\uFFFDgd.exe\u240A<b>x</b>"_s), nullptr);
+}
+
 TEST_F(MainWindowView, speaks_in_its_status_bar)
 {
     frm.StatusBar1.Panel1 = u"Kinemati.out is ready."_s;
@@ -151,6 +186,34 @@ TEST_F(MainWindowView, tells_assistive_technology_what_everything_is)
     EXPECT_EQ(datafiles->role(), QAccessible::List);
     EXPECT_EQ(datafiles->childCount(), 1);
     EXPECT_EQ(datafiles->child(0)->text(QAccessible::Name), u"walk1.dg"_s);
+    click(frm.filDatafiles, u"walk1.dg"_s);
+    QAccessibleInterface *trial = QAccessible::queryAccessibleInterface(value(u"Current trial:"_s));
+    EXPECT_EQ(trial->text(QAccessible::Name), u"WALK1.dg"_s);
+    const auto relations = trial->relations(QAccessible::Label);
+    ASSERT_EQ(relations.size(), 1);
+    EXPECT_EQ(relations[0].first->text(QAccessible::Name), u"Current trial:"_s);
+}
+
+TEST_F(MainWindowView, says_what_each_value_and_each_list_is)
+{
+    for (const char *caption : {"Current path:", "Current trial:", "Title:", "Command line:", "GRA(ph) file:",
+                                "Listing to:", "Graphics to:"}) {
+        const QLabel *label = labelThatReads(QLatin1String(caption));
+        ASSERT_NE(label, nullptr) << caption;
+        ASSERT_NE(label->buddy(), nullptr) << caption;
+        EXPECT_TRUE(label->isVisible()) << caption;
+        EXPECT_LE(label->geometry().right(), label->buddy()->geometry().left()) << caption;
+        EXPECT_EQ(label->geometry().center().y(), label->buddy()->geometry().center().y()) << caption;
+    }
+    for (const char *caption :
+         {"Data files", "Models (.CFB)", "Binary files", "Output files", "Graphs (.PLT)"}) {
+        const QLabel *label = labelThatReads(QLatin1String(caption));
+        ASSERT_NE(label, nullptr) << caption;
+        EXPECT_TRUE(label->isVisible()) << caption;
+        const QListView *view = list(QLatin1String(caption));
+        EXPECT_LE(label->geometry().bottom(), view->geometry().top()) << caption;
+        EXPECT_EQ(label->geometry().left(), view->geometry().left()) << caption;
+    }
 }
 
 TEST_F(MainWindowView, has_tool_tips)
@@ -158,6 +221,22 @@ TEST_F(MainWindowView, has_tool_tips)
     EXPECT_EQ(list(u"Data files"_s)->toolTip(), u"Click to select motion data"_s);
     EXPECT_EQ(list(u"Directory"_s)->toolTip(), u"Select the data directory"_s);
     EXPECT_EQ(button(u"Exit"_s)->toolTip(), u"Click to exit"_s);
+    for (const char *name : {"Data files", "Directory"}) {
+        QListView *view = list(QLatin1String(name));
+        EXPECT_EQ(toolTipAt(view->viewport(), middleOf(view, 0)), view->toolTip())
+            << "over a row of " << name;
+    }
+}
+
+TEST_F(MainWindowView, shows_the_whole_name_of_a_row_that_is_cut)
+{
+    const QString name = u"<b>a & b "_s + QString(60, u'x') + u".dg"_s;
+    addFile(u"C:\\DATA\\"_s + name);
+    click(frm.cmdRefresh);
+    QListView *view = list(u"Data files"_s);
+    EXPECT_EQ(toolTipAt(view->viewport(), middleOf(view, 0)),
+              u"<span>&lt;b&gt;a &amp; b "_s + QString(60, u'x') + u".dg</span>"_s);
+    EXPECT_EQ(toolTipAt(view->viewport(), middleOf(view, 1)), u"Click to select motion data"_s);
 }
 
 TEST_F(MainWindowView, lets_everything_be_reached_by_tab)
@@ -227,11 +306,40 @@ TEST_F(MainWindowView, shows_the_about_window_on_f1_and_question_mark)
     pressAndRelease(Qt::Key_Help, Qt::NoModifier);
     EXPECT_TRUE(panel.about.Visible);
     panel.about.Visible = false;
-    pressAndRelease(Qt::Key_Slash, Qt::ShiftModifier);
+    pressAndRelease(Qt::Key_F1, Qt::ShiftModifier | Qt::ControlModifier);
     EXPECT_TRUE(panel.about.Visible);
     panel.about.Visible = false;
+    // A slash is no question mark, whether the keyboard has it with Shift or without.
     pressAndRelease(Qt::Key_Slash, Qt::NoModifier);
+    pressAndRelease(Qt::Key_Slash, Qt::ShiftModifier);
     EXPECT_FALSE(panel.about.Visible);
+}
+
+TEST_F(MainWindowView, sees_no_keys_without_key_preview)
+{
+    frm.KeyPreview = false;
+    pressAndRelease(Qt::Key_F1, Qt::NoModifier);
+    EXPECT_FALSE(panel.about.Visible);
+}
+
+TEST_F(MainWindowView, knows_a_released_key_by_its_place_on_the_keyboard)
+{
+    const auto send = [this](QEvent::Type type, int key, Qt::KeyboardModifiers modifiers) {
+        QKeyEvent event(type, key, modifiers, 61, 0, 0);
+        QApplication::sendEvent(window().windowHandle(), &event);
+    };
+    // Shift is released before the key, which is then a slash.
+    send(QEvent::KeyPress, Qt::Key_Question, Qt::ShiftModifier);
+    send(QEvent::KeyRelease, Qt::Key_Slash, Qt::NoModifier);
+    EXPECT_TRUE(panel.about.Visible);
+}
+
+TEST_F(MainWindowView, forgets_a_press_whose_release_went_elsewhere)
+{
+    addData({"new.dg"});
+    QTest::keyPress(window().windowHandle(), Qt::Key_R, Qt::NoModifier);
+    pressAndRelease(Qt::Key_R, Qt::ControlModifier);
+    EXPECT_EQ(frm.filDatafiles.ListCount(), 2);
 }
 
 TEST_F(MainWindowView, refreshes_on_ctrl_r_with_the_modifiers_of_the_press)
@@ -297,33 +405,70 @@ TEST_F(MainWindowView, is_activated)
     EXPECT_TRUE(frm.KeyPreview);
 }
 
-TEST_F(MainWindowView, fits_its_captions_at_any_font_of_the_desktop)
+class MainWindowFonts : public MainWindowView
 {
-    const QFont before = QApplication::font();
-    for (double size : {7.0, 9.0, 11.0, 14.0, 20.0}) {
+protected:
+    ~MainWindowFonts() override { QApplication::setFont(before); }
+
+    QFont inPoints(double size) const
+    {
         QFont font = before;
         font.setPointSizeF(size);
+        return font;
+    }
+
+    QFont inPixels(int size) const
+    {
+        QFont font = before;
+        font.setPixelSize(size);
+        return font;
+    }
+
+    void expectThatCaptionsFit(const QFont &font)
+    {
+        SCOPED_TRACE(font.toString().toStdString());
+        window().resize(673, 487);
+        settle();
+        EXPECT_EQ(window().size(), QSize(673, 487));
+        for (const QPushButton *candidate : window().findChildren<QPushButton *>()) {
+            if (candidate->isVisible()) {
+                EXPECT_GE(candidate->width(), candidate->sizeHint().width() - 8)
+                    << candidate->text().toStdString();
+                EXPECT_GE(candidate->height(), candidate->fontMetrics().height());
+            }
+        }
+        EXPECT_LE(window().menuBar()->sizeHint().width(), 673);
+        // Nothing overlaps: the last button ends above the status bar.
+        const QPushButton *last = button(u"Exit"_s);
+        EXPECT_LE(last->mapTo(&window(), QPoint(0, last->height())).y(), window().statusBar()->y());
+    }
+
+    const QFont before = QApplication::font();
+};
+
+TEST_F(MainWindowFonts, of_any_size_let_all_captions_fit)
+{
+    for (const QFont &font :
+         {inPoints(7), inPoints(9), inPoints(11), inPoints(14), inPoints(20), inPixels(30)}) {
         QApplication::setFont(font);
         windows = nullptr;
         windows = std::make_unique<views::PanelWindows>(panel);
         panel.frm.Visible = true;
-        window().resize(673, 487);
-        settle();
-        EXPECT_EQ(window().width(), 673) << size;
-        EXPECT_EQ(window().height(), 487) << size;
-        for (const QPushButton *candidate : window().findChildren<QPushButton *>()) {
-            if (candidate->isVisible()) {
-                EXPECT_GE(candidate->width(), candidate->sizeHint().width() - 8)
-                    << size << ' ' << candidate->text().toStdString();
-                EXPECT_GE(candidate->height(), candidate->fontMetrics().height()) << size;
-            }
-        }
-        EXPECT_LE(window().menuBar()->sizeHint().width(), 673) << size;
-        // Nothing overlaps: the last button ends above the status bar.
-        const QPushButton *last = button(u"Exit"_s);
-        EXPECT_LE(last->mapTo(&window(), QPoint(0, last->height())).y(), window().statusBar()->y()) << size;
+        expectThatCaptionsFit(font);
     }
-    QApplication::setFont(before);
+}
+
+TEST_F(MainWindowFonts, are_followed_when_they_change)
+{
+    QApplication::setFont(inPoints(20));
+    settle();
+    expectThatCaptionsFit(inPoints(20));
+    EXPECT_LT(window().font().pointSizeF(), 20);
+    QApplication::setFont(inPoints(8));
+    settle();
+    expectThatCaptionsFit(inPoints(8));
+    EXPECT_EQ(window().font().pointSizeF(), 8);
+    EXPECT_EQ(button(u"Exit"_s)->font().pointSizeF(), 8);
 }
 
 class AboutWindowView : public support::ViewFixture
