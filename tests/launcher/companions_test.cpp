@@ -54,15 +54,21 @@ TEST_F(Companions, start_on_the_trials_file)
 
 TEST_F(Companions, find_the_data_directory_in_the_settings)
 {
+    std::vector<size_t> writtenBefore;
+    machine.programs.whileStarting = [&] { writtenBefore.push_back(machine.settings.written.size()); };
     click(frm.cmdForces);
     click(frm.cmdSkelvo);
+    EXPECT_THAT(writtenBefore, ElementsAre(1U, 2U));
     const Written written{u"Kinovra"_s, u"Startup"_s, u"Datadir"_s, u"C:\\DATA"_s};
     EXPECT_THAT(machine.settings.written, ElementsAre(written, written));
 }
 
 TEST_F(Companions, signal_processing_finds_it_in_its_own_settings_alone)
 {
+    size_t writtenBefore = 0;
+    machine.programs.whileStarting = [&] { writtenBefore = machine.settings.written.size(); };
     click(frm.cmdOndex);
+    EXPECT_EQ(writtenBefore, 1U);
     EXPECT_THAT(machine.settings.written,
                 ElementsAre(Written{u"Ondex2"_s, u"Startup"_s, u"Datadir"_s, u"C:\\DATA"_s}));
     EXPECT_FALSE(machine.settings.values.contains(u"Kinovra/Startup/Datadir"_s));

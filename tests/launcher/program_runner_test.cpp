@@ -323,7 +323,7 @@ protected:
     }
 
     void end(const Ending &ending, double value = 42) { machine.programs.ended(value, ending); }
-    QString said() const { return frm.StatusBar1.Panel1; }
+    QString said() const { return frm.StatusBar1.Panel1.value(); }
 };
 
 TEST_F(ProgramEnds, with_an_error_and_the_status_bar_says_so)

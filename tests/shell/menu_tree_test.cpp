@@ -1,3 +1,4 @@
+#include "panel_fixture.h"
 #include "printing.h"
 #include "shell/menu_tree.h"
 
@@ -287,4 +288,47 @@ TEST(MenuItems, begin_as_the_window_defines_them)
     EXPECT_TRUE(frm.mnuPrompt.Checked);
     for (const auto &item : frm.mnuGraphOptions)
         EXPECT_FALSE(item.Checked);
+}
+
+class MenuCommands : public support::PanelFixture
+{};
+
+// A menu's own row has no command; every other item has one, but for those that are still to come.
+TEST_F(MenuCommands, are_behind_every_item_that_is_not_still_to_come)
+{
+    QStringList without; // a line an array
+    QString array;
+    const auto &rows = menuTree();
+    for (size_t i = 0; i < rows.size(); ++i) {
+        const bool isMenu = i + 1 < rows.size() && rows[i + 1].depth > rows[i].depth;
+        if (isMenu || rows[i].isSeparator() || rows[i].item(frm).Click)
+            continue;
+        if (rows[i].name != array)
+            without.append(rows[i].name);
+        if (rows[i].index >= 0)
+            without.last() += u' ' + QString::number(rows[i].index);
+        array = rows[i].name;
+    }
+    EXPECT_EQ(without, (QStringList{u"mnuOpen 0 1 2 3"_s,
+                                    u"mnuDOS 0 1 2 3"_s,
+                                    u"mnuRun"_s,
+                                    u"mnuPrint"_s,
+                                    u"mnuPrintSetup"_s,
+                                    u"mnuDatafile 0 1 2 3 4"_s,
+                                    u"mnuArielType 0 1 2 3 4 5 6 7 8 9"_s,
+                                    u"mnuConvert 0 1 2 3 4 5 6"_s,
+                                    u"mnuModel 0 1 2 3 5"_s,
+                                    u"mnuNewModel"_s,
+                                    u"mnuOptions"_s,
+                                    u"mnuAverage 0 1 2 3 4 5"_s,
+                                    u"mnuSkelvo 0 1 2 3"_s,
+                                    u"mnuGraph 0 1 2 3 4 5"_s,
+                                    u"mnuGraphOptions 0 1 2 3 4 5"_s,
+                                    u"mnuGraphPrint 0 1 2 3 4"_s,
+                                    u"mnuForce 0 1 2 3"_s,
+                                    u"mnuView 0 1 2 3 4"_s,
+                                    u"mnuTextViewer 0 1 2"_s,
+                                    u"mnuManual 0 1 2 3 4 5 6 7 8 9"_s,
+                                    u"mnuHelpItem 0 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18"_s,
+                                    u"mnuAbout 0 1 2 3"_s}));
 }

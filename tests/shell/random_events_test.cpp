@@ -194,9 +194,11 @@ protected:
 
     void endSomeProgram()
     {
-        machine.programs.ended(
-            oneIn(2) ? 42 : 51 + pick(2000),
-            {oneIn(4) ? platform::Ending::Kind::Crashed : platform::Ending::Kind::Exited, pick(3)});
+        machine.programs.ended(oneIn(2) ? 42 : 51 + pick(2000),
+                               {oneIn(4)   ? platform::Ending::Kind::Crashed
+                                : oneIn(8) ? platform::Ending::Kind::TerminalFailed
+                                           : platform::Ending::Kind::Exited,
+                                pick(3)});
     }
 
     void planEventDuringPause()
@@ -323,4 +325,5 @@ TEST_F(RandomEvents, never_break_the_panel)
         forget();
     }
     EXPECT_GT(refusalsChecked, 1000);
+    EXPECT_EQ(machine.settings.readKeys.size(), 6) << "settings are read at the start only";
 }

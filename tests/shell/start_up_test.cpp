@@ -3,6 +3,7 @@
 #include "printing.h"
 #include "shell/dispatch.h"
 #include "shell/start_up.h"
+#include "shell/stored_settings.h"
 
 #include <gmock/gmock.h>
 
@@ -133,6 +134,7 @@ TEST_F(StartUp, sets_what_holds_for_the_whole_run)
     EXPECT_EQ(kinovra.WebHome, u"https://example.org/kinovra/kinovra.htm"_s);
     EXPECT_EQ(frm.Loaded, 1);
     EXPECT_EQ(frm.StartDir, u"C:\\DATA"_s);
+    EXPECT_EQ(frm.lblCommand.Caption.value(), QString());
     EXPECT_EQ(kinovra.BinaryFile, QString());
     EXPECT_EQ(frm.GraphicsSwitch, u"/A /Z "_s);
     EXPECT_EQ(kinovra.ListingSwitch, QString());
@@ -308,6 +310,16 @@ TEST_F(StartUp, replaces_a_root_by_the_chosen_drives_text)
     EXPECT_EQ(frm.lblPath.Caption.value(), u"c: [data]"_s);
 }
 
+TEST_F(StartUp, replaces_a_root_by_the_text_of_the_drive_that_is_current_not_of_the_root)
+{
+    machine.files.addDirectory(u"D:\\"_s);
+    machine.settings.stored(u"Datadir"_s, u"D:\\"_s);
+    start();
+    EXPECT_EQ(kinovra.DataDir, u"C:\\DATA"_s);
+    EXPECT_EQ(frm.drvDrives.Drive.value(), u"c: [data]"_s);
+    EXPECT_THAT(machine.dialogs.messages, IsEmpty());
+}
+
 TEST_F(StartUp, uses_the_program_directory_where_the_data_directory_is_gone)
 {
     machine.settings.stored(u"Datadir"_s, u"C:\\GONE"_s);
@@ -458,8 +470,44 @@ TEST_F(StartUp, shows_no_splash_for_a_semicolon_or_a_question_mark)
     EXPECT_EQ(kinovra.CurrentTrial, QString());
     start(u"?"_s);
     EXPECT_FALSE(splashShown());
+    EXPECT_THAT(machine.dialogs.messages, IsEmpty());
+    EXPECT_EQ(kinovra.DataDir, u"C:\\DATA"_s);
+    EXPECT_EQ(kinovra.SelectedFile, u"?"_s);
     start(u";;"_s);
     EXPECT_TRUE(splashShown());
+}
+
+TEST_F(StartUp, keeps_no_directory_in_the_selected_file)
+{
+    addData({"walk1.dg"});
+    start(u"C:\\DATA\\walk1.dg"_s);
+    EXPECT_EQ(kinovra.SelectedFile, u"walk1.dg"_s);
+    start(u"C:\\DATA\\"_s);
+    EXPECT_EQ(kinovra.SelectedFile, QString());
+    EXPECT_EQ(kinovra.DataDir, u"C:\\DATA"_s);
+    EXPECT_EQ(frm.lblCommand.Caption.value(), u"C:\\DATA\\"_s);
+    EXPECT_TRUE(splashShown());
+}
+
+TEST_F(StartUp, reads_where_the_programs_were_though_the_environment_decides)
+{
+    shell::LoadSettings(panel);
+    EXPECT_EQ(kinovra.ProgDir, u"C:\\KINOVRA"_s);
+    machine.settings.stored(u"Progdir"_s, u"C:\\STORED"_s);
+    shell::LoadSettings(panel);
+    EXPECT_EQ(kinovra.ProgDir, u"C:\\STORED"_s);
+}
+
+TEST(State, begins_empty)
+{
+    support::RecordingPlatform machine;
+    const shell::Panel panel(machine.platform);
+    EXPECT_EQ(panel.kinovra.Answer, 0);
+    EXPECT_EQ(panel.kinovra.TaskId, 0);
+    EXPECT_EQ(panel.kinovra.ListingSwitch, QString());
+    EXPECT_EQ(panel.frm.ProgPath, QString());
+    EXPECT_EQ(panel.frm.Comm.text(), QString());
+    EXPECT_EQ(panel.kinovra.ViewerFile, QString());
 }
 
 TEST_F(StartUp, shows_the_state_in_the_labels)
@@ -540,7 +588,10 @@ TEST_F(ShutDown, by_the_exit_item_saves_nothing)
 TEST_F(ShutDown, by_the_exit_button_saves_five_settings_in_order)
 {
     frm.CurrentGRA = u"Stick.gra"_s;
+    size_t writtenBefore = 0;
+    machine.environment.whileEnding = [&] { writtenBefore = machine.settings.written.size(); };
     click(frm.cmdExit);
+    EXPECT_EQ(writtenBefore, 5U);
     using Written = support::RecordingSettings::Written;
     EXPECT_THAT(machine.settings.written,
                 ElementsAre(Written{u"Kinovra"_s, u"Startup"_s, u"Progdir"_s, u"C:\\KINOVRA"_s},

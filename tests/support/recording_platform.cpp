@@ -50,6 +50,8 @@ void RecordingSettings::stored(const QString &key, const QString &value)
 
 platform::StartResult RecordingPrograms::start(const platform::Start &start)
 {
+    if (whileStarting)
+        whileStarting();
     started.push_back(start);
     if (!failure.isEmpty())
         return {start.verb.isEmpty() ? 0.0 : 2.0, failure};

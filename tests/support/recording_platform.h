@@ -39,7 +39,14 @@ public:
     QString commandLine() override { return line; }
     QString variable(const QString &name) override { return variables.value(name); }
     QString programFolder() override { return folder; }
-    void endProgram() override { ended = true; }
+    void endProgram() override
+    {
+        if (whileEnding)
+            whileEnding();
+        ended = true;
+    }
+
+    std::function<void()> whileEnding;
 
     QString line;
     QMap<QString, QString> variables;
@@ -54,6 +61,7 @@ public:
     platform::StartResult start(const platform::Start &start) override;
 
     std::vector<platform::Start> started;
+    std::function<void()> whileStarting;
     QString failure;      ///< set: every start fails for this reason
     double nextTask = 51; ///< value of the next direct start
     double openValue = 42;
