@@ -8,25 +8,27 @@ namespace platform {
 
 namespace {
 
-/// The first sixteen characters in upper case as two numbers whose order is theirs, for names in ASCII;
-/// whatever lies beyond ASCII comes behind it. Names that share a key are settled by whole names.
+/// The first sixteen characters in upper case as two numbers whose order is theirs, as far as they are ASCII;
+/// from the first other one on, every character counts as the last. Names that share a key are settled by
+/// whole names.
 struct SortKey
 {
-    quint64 high;
-    quint64 low;
+    quint64 high = 0;
+    quint64 low = 0;
     quint32 entry;
-};
 
-quint64 eightUnits(QStringView name, qsizetype from)
-{
-    constexpr quint64 BeyondAscii = 0xFF;
-    quint64 key = 0;
-    for (qsizetype i = from; i < from + 8; ++i) {
-        const char16_t unit = i < name.size() ? name[i].unicode() : u'\0';
-        key = (key << 8U) | (unit < 0x80 ? upperCase(unit) : BeyondAscii);
+    SortKey(QStringView name, quint32 itsEntry) : entry(itsEntry)
+    {
+        constexpr quint64 Last = 0xFF;
+        bool isAscii = true;
+        for (qsizetype i = 0; i < 16; ++i) {
+            const char16_t unit = i < name.size() ? upperCase(name[i].unicode()) : u'\0';
+            isAscii = isAscii && unit < 0x80;
+            quint64 &half = i < 8 ? high : low;
+            half = (half << 8U) | (isAscii ? unit : Last);
+        }
     }
-    return key;
-}
+};
 
 quint32 foldedHash(QStringView name)
 {
@@ -87,10 +89,8 @@ void FileNames::sort() const
     const Directory &directory = *data_->directory;
     std::vector<SortKey> keys;
     keys.reserve(data_->entries.size());
-    for (quint32 entry : data_->entries) {
-        const QStringView name = directory.nameOf(entry);
-        keys.push_back({eightUnits(name, 0), eightUnits(name, 8), entry});
-    }
+    for (quint32 entry : data_->entries)
+        keys.emplace_back(directory.nameOf(entry), entry);
     std::sort(keys.begin(), keys.end(), [&directory](const SortKey &a, const SortKey &b) {
         if (a.high != b.high)
             return a.high < b.high;

@@ -53,6 +53,36 @@ TEST(FileNames, stand_in_alphabetical_order_without_regard_to_case)
                            u"C.dg"_s, u"WALK1.DG"_s, u"walk10.dg"_s, u"walk2.dg"_s}));
 }
 
+TEST(FileNames, stand_in_order_beyond_ascii_too)
+{
+    const auto directory =
+        holding({u"ö0.dg"_s, u"ä1.dg"_s, u"zz.dg"_s, u"Ä0.dg"_s, u"abcdefghä.dg"_s, u"abcdefghz.dg"_s});
+    EXPECT_EQ(
+        directory->files(u"*.dg"_s).toList(),
+        (QStringList{u"abcdefghz.dg"_s, u"abcdefghä.dg"_s, u"zz.dg"_s, u"Ä0.dg"_s, u"ä1.dg"_s, u"ö0.dg"_s}));
+}
+
+TEST(FileNames, are_found_again_whatever_they_are_made_of)
+{
+    const QString units = u"aAbzZ09_ äÄöéßıſǄŁλΩшШ中🏃"_s;
+    QStringList files;
+    // A fixed sequence that looks like chance.
+    quint32 chance = 12345;
+    for (int i = 0; i < 3000; ++i) {
+        QString name;
+        for (int length = 1 + i % 20; length > 0; --length) {
+            chance = chance * 1664525U + 1013904223U;
+            name += units[static_cast<qsizetype>((chance >> 16U) % static_cast<quint32>(units.size()))];
+        }
+        if (!files.contains(name + u".dg"_s))
+            files.append(name + u".dg"_s);
+    }
+    const auto names = holding(files)->files(u"*.dg"_s);
+    ASSERT_EQ(names.count(), files.size());
+    for (int row = 0; row < names.count(); ++row)
+        ASSERT_EQ(names.indexOf(names.at(row)), row) << names.at(row).toStdString();
+}
+
 TEST(FileNames, leave_out_folders_hidden_files_and_devices)
 {
     auto directory = holding({u"a.dg"_s});
