@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cerrno>
+#include <cstdlib>
 #include <cstring>
 #include <ctime>
 #include <memory>
@@ -130,7 +131,9 @@ DirectoryReading readDirectory(const QByteArray &hostPath, const QString &path)
         }
     }
     const DirectoryStamp before = stamp(status);
-    return {directory, before, nanoseconds(now) - before.modified > tickOf(descriptor.get())};
+    // FAT's root has no time at all; a server's clock may be ahead of this one.
+    const qint64 age = std::abs(nanoseconds(now) - before.modified);
+    return {directory, before, before.modified != 0 && age > tickOf(descriptor.get())};
 }
 
 } // namespace platform::host

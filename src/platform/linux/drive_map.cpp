@@ -38,9 +38,9 @@ DriveMap::DriveMap(QByteArray winePrefix) : winePrefix_(std::move(winePrefix))
     refresh();
 }
 
-void DriveMap::refresh()
+QList<QChar> DriveMap::refresh()
 {
-    roots_.clear();
+    const QMap<QChar, QByteArray> before = std::exchange(roots_, {});
     if (!winePrefix_.isEmpty()) {
         const QByteArray devices = winePrefix_ + "/dosdevices";
         for (char letter = 'a'; letter <= 'z'; ++letter) {
@@ -51,6 +51,12 @@ void DriveMap::refresh()
         }
     }
     roots_.insert(u'Z', QByteArray());
+    QList<QChar> changed;
+    for (auto it = before.begin(); it != before.end(); ++it) {
+        if (!roots_.contains(it.key()) || roots_.value(it.key()) != it.value())
+            changed.append(it.key());
+    }
+    return changed;
 }
 
 QStringList DriveMap::texts() const

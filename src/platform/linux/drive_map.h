@@ -16,8 +16,8 @@ public:
     /// `winePrefix` is the prefix's directory, empty for none.
     explicit DriveMap(QByteArray winePrefix);
 
-    /// Reads the prefix's letters again.
-    void refresh();
+    /// Reads the prefix's letters again; gives those that mean another directory by now, or none.
+    QList<QChar> refresh();
 
     /// The drive texts in letter order, such as "c:".
     QStringList texts() const;

@@ -95,7 +95,8 @@ LinuxFileSystem::LinuxFileSystem(const QByteArray &winePrefix) : drives_(winePre
 
 QStringList LinuxFileSystem::drives()
 {
-    drives_.refresh();
+    for (QChar drive : drives_.refresh())
+        lookup_.forget(drive);
     return drives_.texts();
 }
 

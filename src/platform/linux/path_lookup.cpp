@@ -6,6 +6,7 @@
 #include "platform/path_language.h"
 
 #include <algorithm>
+#include <cerrno>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -17,11 +18,24 @@ namespace {
 // The data directory, the program directory with its graphs, and their ancestors.
 constexpr qsizetype MostReadings = 24;
 
-bool exists(const QByteArray &hostPath)
+/// Whether something is there, and whether some answer was refused.
+class Existence
 {
-    struct stat status = {};
-    return ::stat(hostPath.constData(), &status) == 0;
-}
+public:
+    bool of(const QByteArray &hostPath)
+    {
+        struct stat status = {};
+        if (::stat(hostPath.constData(), &status) == 0)
+            return true;
+        refused_ = refused_ || errno == EACCES;
+        return false;
+    }
+
+    bool wasRefused() const { return refused_; }
+
+private:
+    bool refused_ = false;
+};
 
 bool isExecutableFile(const QByteArray &hostPath)
 {
@@ -51,19 +65,29 @@ QByteArray joined(const QByteArray &hostDirectory, const QString &name)
 std::optional<QByteArray> PathLookup::find(const QString &path)
 {
     requireDrive(path);
+    Existence existence;
     QByteArray literal = drives_.toHost(path);
-    if (exists(literal))
+    if (existence.of(literal))
         return literal;
 
     const QChar drive = path.at(0);
     const QStringList names = splitPath(path).Names;
+    QByteArray from = drives_.root(drive);
+    qsizetype below = 0;
     QString known = path;
-    for (qsizetype below = 0; below < names.size(); ++below, known = parentOf(known)) {
+    for (; below < names.size(); ++below, known = parentOf(known)) {
         const auto remembered = remembered_.constFind(UCase(known));
-        if (remembered != remembered_.constEnd() && exists(*remembered))
-            return findBelow(drive, *remembered, names.last(below));
+        if (remembered != remembered_.constEnd() && existence.of(*remembered)) {
+            from = *remembered;
+            break;
+        }
     }
-    return findBelow(drive, drives_.root(drive), names);
+    QByteArray found = findBelow(drive, from, names.last(below));
+    if (existence.of(found))
+        return found;
+    if (existence.wasRefused())
+        throw RuntimeError(ErrorNumber::PermissionDenied);
+    return std::nullopt;
 }
 
 PathLookup::File PathLookup::findFile(const QString &path)
@@ -87,8 +111,11 @@ std::shared_ptr<PathLookup::Reading> PathLookup::usedDirectory(QStringView direc
         return lastReading_;
     lastReading_ = nullptr;
     const QString path = directory.toString();
-    const auto remembered = remembered_.constFind(UCase(path));
-    if (remembered == remembered_.constEnd())
+    const QString upper = UCase(path);
+    const auto remembered = remembered_.constFind(upper);
+    // A spelling of its own may mean another directory than the one that was used.
+    if (remembered == remembered_.constEnd()
+        || (path != upper && path != drives_.toPanel(path.at(0), *remembered)))
         return nullptr;
     try {
         lastReading_ = listing(path.at(0), *remembered);
@@ -137,6 +164,16 @@ void PathLookup::remember(QChar drive, const QByteArray &hostDirectory)
     lastReading_ = nullptr;
 }
 
+void PathLookup::forget(QChar drive)
+{
+    const QString root = rootOf(drive);
+    remembered_.removeIf([&root](const auto &entry) { return entry.key().startsWith(root); });
+    const char letter = static_cast<char>(drive.unicode());
+    readings_.removeIf([letter](const auto &entry) { return entry.key().startsWith(letter); });
+    recentlyRead_.removeIf([letter](const QByteArray &key) { return key.startsWith(letter); });
+    lastReading_ = nullptr;
+}
+
 void PathLookup::requireDrive(const QString &path) const
 {
     if (!drives_.contains(path.at(0)))
@@ -176,8 +213,8 @@ std::shared_ptr<PathLookup::Reading> PathLookup::readAnew(QChar drive, const QBy
     return reading;
 }
 
-std::optional<QByteArray> PathLookup::findBelow(QChar drive, QByteArray hostDirectory,
-                                                const QStringList &names)
+// The host's path of `names` below a directory, as they are spelled there; empty where one is missing.
+QByteArray PathLookup::findBelow(QChar drive, QByteArray hostDirectory, const QStringList &names)
 {
     for (const QString &name : names) {
         QString spelled;
@@ -188,10 +225,10 @@ std::optional<QByteArray> PathLookup::findBelow(QChar drive, QByteArray hostDire
             spelled = name;
         }
         if (spelled.isNull())
-            return std::nullopt;
+            return {};
         hostDirectory = joined(hostDirectory, spelled);
     }
-    return exists(hostDirectory) ? std::optional(hostDirectory) : std::nullopt;
+    return hostDirectory.isEmpty() ? QByteArray("/") : hostDirectory;
 }
 
 } // namespace platform::host

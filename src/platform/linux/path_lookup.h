@@ -23,7 +23,7 @@ public:
 
     /// The host's path of the directory (or whatever else) called `path`: the path as it stands first, then
     /// the spelling in which the panel has used it, then each name against the folded index of its directory.
-    /// Nothing where there is no such thing.
+    /// Nothing where there is no such thing. Raises PermissionDenied where that cannot be known.
     std::optional<QByteArray> find(const QString &path);
 
     /// The host's path of a file, and where there is none, what is missing.
@@ -49,7 +49,7 @@ public:
     /// PermissionDenied.
     std::shared_ptr<const Directory> directory(const QString &path, platform::Reading reading);
 
-    /// Moments in which no directory changes; they may lie within each other.
+    /// Moments within which no change of a directory is noticed; they may lie within each other.
     void beginMoment()
     {
         ++moment_;
@@ -61,6 +61,9 @@ public:
     /// Remembers the true spelling of a directory that the panel has used, so that its upper-case form is
     /// found again even below a directory that cannot be listed, and is never mistaken for another one's.
     void remember(QChar drive, const QByteArray &hostDirectory);
+
+    /// Forgets what is known of a drive: its letter means another directory by now.
+    void forget(QChar drive);
 
 private:
     /// A directory that was read. It carries its path on one drive; one that two drives reach is read for
@@ -77,7 +80,7 @@ private:
     std::shared_ptr<Reading> readAnew(QChar drive, const QByteArray &hostDirectory);
     std::shared_ptr<Reading> listing(QChar drive, const QByteArray &hostDirectory);
     std::shared_ptr<Reading> usedDirectory(QStringView directory);
-    std::optional<QByteArray> findBelow(QChar drive, QByteArray hostDirectory, const QStringList &names);
+    QByteArray findBelow(QChar drive, QByteArray hostDirectory, const QStringList &names);
 
     DriveMap &drives_;
     QHash<QString, QByteArray> remembered_; ///< upper-case path of a directory: its path on the host

@@ -58,6 +58,9 @@ TEST_F(LinuxFiles, know_permissions)
         const support::WithoutPrivileges nobody;
         EXPECT_EQ(files.testReading(at(u"secret.dg"_s)), 70);
         EXPECT_EQ(files.testReading(upper(u"secret.dg"_s)), 70);
+        EXPECT_EQ(files.testReading(at(u"closed\\below\\run1.dg"_s)), 70);
+        EXPECT_EQ(files.testReading(upper(u"closed\\run1.dg"_s)), 70);
+        EXPECT_EQ(files.testReading(at(u"missing.dg"_s)), 53);
         try {
             files.directory(at(u"closed"_s), Reading::Anew);
             ADD_FAILURE() << "a closed directory was read";
@@ -233,4 +236,78 @@ TEST_F(LinuxFiles, survive_a_directory_that_vanishes_and_comes_back)
     scratch.makeDirectory("Data");
     scratch.makeFile("Data/run1.dg");
     EXPECT_EQ(files.testReading(upper(u"data\\run1.dg"_s)), 0);
+}
+
+TEST_F(LinuxFiles, are_what_they_were_when_the_moment_began)
+{
+    files.directory(base, Reading::Anew);
+    files.beginMoment();
+    EXPECT_EQ(files.testReading(upper(u"new.km"_s)), 53);
+    scratch.makeFile("new.km");
+    EXPECT_EQ(files.testReading(upper(u"new.km"_s)), 53);
+    files.nextMoment();
+    EXPECT_EQ(files.testReading(upper(u"new.km"_s)), 0);
+    scratch.remove("new.km");
+    files.beginMoment();
+    EXPECT_EQ(files.testReading(upper(u"new.km"_s)), 53)
+        << "a moment within another one sees what is there now";
+    files.endMoment();
+    files.endMoment();
+    scratch.makeFile("new.km");
+    EXPECT_EQ(files.testReading(upper(u"new.km"_s)), 0) << "between moments everything is looked at";
+}
+
+TEST_F(LinuxFiles, are_those_of_the_directory_that_has_the_name_now)
+{
+    scratch.makeDirectory("data");
+    scratch.makeDirectory("other");
+    scratch.makeFile("data/old.dg");
+    scratch.makeFile("other/new.dg");
+    files.directory(at(u"data"_s), Reading::Anew);
+    EXPECT_EQ(files.testReading(upper(u"data\\old.dg"_s)), 0);
+    std::filesystem::rename(scratch.path("data").toStdString(), scratch.path("gone").toStdString());
+    std::filesystem::rename(scratch.path("other").toStdString(), scratch.path("data").toStdString());
+    EXPECT_EQ(files.testReading(upper(u"data\\old.dg"_s)), 53);
+    EXPECT_EQ(files.testReading(upper(u"data\\new.dg"_s)), 0);
+}
+
+TEST_F(LinuxFiles, are_those_of_the_exact_directory_where_two_differ_in_case_alone)
+{
+    scratch.makeDirectory("anna");
+    scratch.makeDirectory("Anna");
+    scratch.makeFile("anna/lower.dg", "lower\n");
+    scratch.makeFile("Anna/upper.dg", "upper\n");
+    files.directory(at(u"anna"_s), Reading::Anew);
+    files.directory(at(u"Anna"_s), Reading::Anew);
+    EXPECT_EQ(files.firstLine(at(u"anna\\lower.dg"_s)), u"lower"_s);
+    EXPECT_EQ(files.firstLine(at(u"Anna\\upper.dg"_s)), u"upper"_s);
+    EXPECT_EQ(files.testReading(upper(u"anna\\upper.dg"_s)), 0) << "the one that was used last";
+}
+
+TEST(LinuxDrives, are_another_place_once_their_letter_is)
+{
+    const support::KeptDirectory kept;
+    const support::ScratchDirectory prefix("prefix");
+    prefix.makeDirectory("stick1/data");
+    prefix.makeDirectory("another stick/data");
+    prefix.makeFile("stick1/data/a.dg");
+    prefix.makeFile("another stick/data/b.dg");
+    prefix.makeDirectory("dosdevices");
+    prefix.makeLink("dosdevices/e:", prefix.path("stick1"));
+    LinuxFileSystem files{prefix.path()};
+    EXPECT_EQ(files.directory(u"E:\\data"_s, Reading::Anew)->files(u"*.dg"_s).toList(),
+              QStringList{u"a.dg"_s});
+    EXPECT_EQ(files.testReading(u"E:\\DATA\\A.DG"_s), 0);
+
+    prefix.remove("dosdevices/e:");
+    prefix.makeLink("dosdevices/e:", prefix.path("another stick"));
+    files.drives();
+    EXPECT_EQ(files.directory(u"E:\\data"_s, Reading::WhenChanged)->files(u"*.dg"_s).toList(),
+              QStringList{u"b.dg"_s});
+    EXPECT_EQ(files.testReading(u"E:\\DATA\\A.DG"_s), 53);
+    EXPECT_EQ(files.testReading(u"E:\\DATA\\B.DG"_s), 0);
+
+    prefix.remove("dosdevices/e:");
+    EXPECT_EQ(files.drives(), QStringList{u"z:"_s});
+    EXPECT_EQ(files.testReading(u"E:\\DATA\\B.DG"_s), 68);
 }
