@@ -55,7 +55,7 @@ void becomeDataDirectory(Panel &panel)
 
 void openDirectory(Panel &panel, const QString &path)
 {
-    const auto directory = panel.platform.files.directory(path, platform::Reading::WhenChanged);
+    const auto directory = panel.platform.files.directory(path, platform::Reading::Anew);
     panel.frm.dirSelect.show(*directory);
     dirSelect_Change(panel);
 }

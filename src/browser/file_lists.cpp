@@ -103,9 +103,10 @@ void cmdRefresh_Click(Panel &panel)
     // A View command may have hidden the graph buttons with nothing left to bring them back.
     if (!frm.filGraFiles.Visible)
         showGraphButtons(panel);
+    // The drives first: a letter may mean another place by now.
+    frm.drvDrives.refresh(platform.files.drives());
     refreshDataDirectory(panel);
     refresh(panel, {&frm.filGraFiles});
-    frm.drvDrives.refresh(platform.files.drives());
     shell::letPendingEventsRun(panel);
 }
 

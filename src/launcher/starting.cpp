@@ -83,6 +83,8 @@ void watchListing(Panel &panel, double value, const QString &listing,
 
 void programEnded(Panel &panel, double value, const Ending &ending)
 {
+    // It may have ended while a handler waits, and left files behind.
+    panel.platform.files.nextMoment();
     const auto found =
         std::find_if(panel.running.begin(), panel.running.end(),
                      [value](const RunningProgram &program) { return program.value == value; });

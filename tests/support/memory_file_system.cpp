@@ -86,15 +86,21 @@ void MemoryFileSystem::announce(const char *call) const
 QString MemoryFileSystem::absolute(const QString &path) const
 {
     QString result = current_.absolute(path);
-    if (!nodes_.contains(UCase(result.left(3))))
+    if (!visible().contains(UCase(result.left(3))))
         throw RuntimeError(ErrorNumber::DeviceUnavailable);
     return result;
 }
 
-MemoryFileSystem::Node *MemoryFileSystem::find(const QString &absolutePath)
+void MemoryFileSystem::beginMoment()
 {
-    const auto found = nodes_.find(UCase(absolutePath));
-    return found == nodes_.end() ? nullptr : &*found;
+    ++moments_;
+    seen_ = nodes_;
+}
+
+const MemoryFileSystem::Node *MemoryFileSystem::find(const QString &absolutePath) const
+{
+    const auto found = visible().constFind(UCase(absolutePath));
+    return found == visible().constEnd() ? nullptr : &*found;
 }
 
 QStringList MemoryFileSystem::drives()
@@ -132,17 +138,22 @@ void MemoryFileSystem::changeDirectory(const QString &path)
     current_.set(node->path);
 }
 
-std::shared_ptr<const platform::Directory> MemoryFileSystem::directory(const QString &path, platform::Reading)
+std::shared_ptr<const platform::Directory> MemoryFileSystem::directory(const QString &path,
+                                                                       platform::Reading reading)
 {
     announce("directory");
     ++directoriesRead;
+    if (reading == platform::Reading::Anew) {
+        ++directoriesReadAnew;
+        nextMoment();
+    }
     const Node *node = find(absolute(path));
     if (node == nullptr || !node->isDirectory)
         throw RuntimeError(ErrorNumber::PathNotFound);
     if (node->error)
         throw RuntimeError(*node->error);
     auto result = platform::Directory::create(node->path);
-    for (const Node &entry : std::as_const(nodes_)) {
+    for (const Node &entry : visible()) {
         if (platform::parentOf(entry.path) == node->path && entry.path != node->path) {
             result->add(platform::nameOf(entry.path),
                         entry.isDirectory ? platform::Directory::Kind::Folder
@@ -153,10 +164,10 @@ std::shared_ptr<const platform::Directory> MemoryFileSystem::directory(const QSt
     return result;
 }
 
-MemoryFileSystem::Node &MemoryFileSystem::openable(const QString &path)
+const MemoryFileSystem::Node &MemoryFileSystem::openable(const QString &path) const
 {
     const QString full = absolute(path);
-    Node *node = find(full);
+    const Node *node = find(full);
     if (node == nullptr) {
         const Node *parent = find(platform::parentOf(full));
         throw RuntimeError(parent != nullptr ? ErrorNumber::FileNotFound : ErrorNumber::PathNotFound);

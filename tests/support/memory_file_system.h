@@ -42,13 +42,18 @@ public:
     QString firstLine(const QString &path) override;
     QString shortName(const QString &path) override;
     std::optional<platform::FileStamp> stamp(const QString &path) override;
+    // As on a host at its laziest: within a moment nothing that changes is seen.
+    void beginMoment() override;
+    void endMoment() override { --moments_; }
+    void nextMoment() override { seen_ = nodes_; }
 
     /// Called before each call that may fail, with its name; it may raise a RuntimeError.
     std::function<void(const QString &call)> beforeCall;
     /// What was tested for reading, as it was asked for.
     QStringList tested;
-    /// How many directories were read.
+    /// How many directories were read, and how many of them anew.
     int directoriesRead = 0;
+    int directoriesReadAnew = 0;
 
 private:
     struct Node
@@ -64,13 +69,16 @@ private:
 
     void announce(const char *call) const;
     QString absolute(const QString &path) const;
-    Node *find(const QString &absolutePath);
-    Node &openable(const QString &path);
+    const QMap<QString, Node> &visible() const { return moments_ > 0 ? seen_ : nodes_; }
+    const Node *find(const QString &absolutePath) const;
+    const Node &openable(const QString &path) const;
     Node &makeNode(const QString &path);
 
     QStringList drives_;
     platform::CurrentDirectories current_;
     QMap<QString, Node> nodes_; ///< by upper-case path
+    QMap<QString, Node> seen_;  ///< what is seen within a moment
+    int moments_ = 0;
     qint64 version_ = 0;
 };
 
