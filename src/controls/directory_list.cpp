@@ -50,8 +50,10 @@ void DirList::show(const platform::Directory &directory)
 
 void DirList::showGone()
 {
-    ListIndex = std::min<int>(ListIndex, OpenedRow());
+    const int row = std::min<int>(ListIndex, OpenedRow());
+    ListIndex = -1;
     Folders = platform::FileNames();
+    ListIndex = row;
 }
 
 } // namespace controls

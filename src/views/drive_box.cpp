@@ -32,6 +32,7 @@ void DriveBox::choose(int index)
 {
     if (itemText(index) == list_.Drive)
         return;
+    events_.runPending();
     list_.Drive = itemText(index);
     events_.run(list_.Change);
 }
@@ -39,10 +40,18 @@ void DriveBox::choose(int index)
 // Stepping through the drives with the arrow keys would wake each of them; the keys open the list instead.
 void DriveBox::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down)
+    switch (event->key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Home:
+    case Qt::Key_End:
         showPopup();
-    else
+        break;
+    default:
         QComboBox::keyPressEvent(event);
+    }
 }
 
 void DriveBox::wheelEvent(QWheelEvent *event)

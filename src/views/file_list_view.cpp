@@ -1,5 +1,6 @@
 #include "views/file_list_view.h"
 
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
@@ -17,6 +18,19 @@ constexpr int RightButton = 2;
 bool isEnter(const QKeyEvent *event)
 {
     return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+}
+
+bool isMove(const QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Home:
+    case Qt::Key_End:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        return true;
+    default:
+        return false;
+    }
 }
 
 // The focus has come to the list itself, not back to its window.
@@ -99,31 +113,42 @@ void FileListView::focusOutEvent(QFocusEvent *event)
 
 void FileListView::keyPressEvent(QKeyEvent *event)
 {
-    if (isEnter(event)) {
-        runHeldBack();
-        events_.run(manners_.choosing ? list_.Click : list_.DblClick);
+    const bool isSpace = event->key() == Qt::Key_Space;
+    if (isEnter(event) || isSpace) {
+        // A key that is held down acts once.
+        if (event->isAutoRepeat())
+            return;
+        if (isSpace)
+            pressSpace();
+        else
+            events_.run(manners_.choosing ? list_.Click : list_.DblClick);
         return;
     }
     if (manners_.choosing && event->key() == Qt::Key_Escape) {
         events_.run([this] { list_.MouseUp(RightButton); });
         return;
     }
-    if (event->key() == Qt::Key_Space) {
-        if (!manners_.choosing && currentIndex().isValid()) {
-            list_.ListIndex = currentIndex().row();
-            events_.run(list_.Click);
-        }
-        return;
-    }
     rest_.stop();
     keyDown_ = true;
     const bool enters = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
-    if (enters && list_.ListIndex < 0 && list_.ListCount() > 0) {
+    if (!enters || list_.ListIndex >= 0)
+        ClassicList::keyPressEvent(event);
+    // The row that has the focus may be the one that the key leads to, though nothing is selected yet.
+    const bool leads = enters || isMove(event) || selectionModel()->isSelected(currentIndex());
+    if (leads && list_.ListIndex < 0 && list_.ListCount() > 0) {
         selectByUser(std::max(currentIndex().row(), 0));
         holdBackClick();
-        return;
     }
-    ClassicList::keyPressEvent(event);
+}
+
+// Space clicks the row that has the focus, once.
+void FileListView::pressSpace()
+{
+    if (manners_.choosing || !currentIndex().isValid())
+        return;
+    list_.ListIndex = currentIndex().row();
+    heldBack_ = true;
+    runHeldBack();
 }
 
 void FileListView::keyReleaseEvent(QKeyEvent *event)
@@ -181,19 +206,28 @@ void FileListView::press(QMouseEvent *event, bool twice)
     press_ = Press::None;
     if (event->button() != Qt::LeftButton)
         return;
-    // Getting the focus may refresh the list under the pointer: what counts is the name that was aimed at.
+    // What counts is the name that was aimed at. Commands that have waited, and the refresh on getting the
+    // focus, may change the list under the pointer, between the two presses of a double-click as well.
     const bool wasEmpty = list_.ListCount() == 0;
     const QModelIndex aimed = indexAt(event->position().toPoint());
-    const QString name = aimed.isValid() ? model_.names().at(aimed.row()) : QString();
-    runHeldBack();
+    const QString underPointer = aimed.isValid() ? model_.names().at(aimed.row()) : QString();
+    const QString name = twice && !pressedName_.isEmpty() ? pressedName_ : underPointer;
+    const Qt::MouseButtons down = QGuiApplication::mouseButtons();
+    events_.runPending();
+    // A box came between, and took the release.
+    if (QGuiApplication::mouseButtons() != down)
+        return;
     setFocus(Qt::MouseFocusReason);
 
     twice_ = twice;
+    pressedName_ = name;
     if (wasEmpty) {
         press_ = list_.ListCount() == 0 ? Press::Empty : Press::None;
     } else if (!name.isEmpty()) {
         const int row = model_.names().indexOf(name);
         if (row >= 0) {
+            if (aimed.isValid())
+                verticalScrollBar()->setValue(verticalScrollBar()->value() + row - aimed.row());
             selectByUser(row);
             press_ = Press::Row;
         }

@@ -49,6 +49,7 @@ private:
     void showNames();
     void showSelection();
     void press(QMouseEvent *event, bool twice);
+    void pressSpace();
     void selectByUser(int row);
     void holdBackClick();
     void arrowKeyIsUp();
@@ -65,6 +66,7 @@ private:
     bool showing_ = false;      ///< the selection changes because the control's did
     bool twice_ = false;        ///< the press was the second one of a double-click
     Press press_ = Press::None; ///< where the left button went down
+    QString pressedName_;       ///< the row's name where it went down
 };
 
 } // namespace views

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QMainWindow>
 #include <QMessageBox>
 
 using namespace Qt::StringLiterals;
@@ -99,6 +100,18 @@ bool isPattern(const QString &fileName)
     return fileName.contains(u'*') || fileName.contains(u'?');
 }
 
+// The window that a box belongs to. While another program is the active one, that is the main window.
+QWidget *owner()
+{
+    if (QWidget *active = QApplication::activeWindow())
+        return active;
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && qobject_cast<QMainWindow *>(window))
+            return window;
+    }
+    return nullptr;
+}
+
 } // namespace
 
 Answer MessageBoxes::message(const platform::MessageBox &box)
@@ -106,7 +119,7 @@ Answer MessageBoxes::message(const platform::MessageBox &box)
     closeMenus();
     QMessageBox window(standardIcon(box.icon),
                        box.title.isEmpty() ? QString(QLatin1String(shell::ApplicationTitle)) : box.title,
-                       shownLines(box.text), standardButtons(box.buttons), QApplication::activeWindow());
+                       shownLines(box.text), standardButtons(box.buttons), owner());
     window.setTextFormat(Qt::PlainText);
     return answerOf(window.exec(), box.buttons);
 }
@@ -114,8 +127,7 @@ Answer MessageBoxes::message(const platform::MessageBox &box)
 std::optional<QString> MessageBoxes::openFile(const platform::OpenFileRequest &request)
 {
     closeMenus();
-    QFileDialog dialog(QApplication::activeWindow(), request.title,
-                       paths_.hostForm(request.initialDirectory));
+    QFileDialog dialog(owner(), request.title, paths_.hostForm(request.initialDirectory));
     dialog.setFileMode(request.mustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     const QStringList filters = nameFilters(request.filter);
     dialog.setNameFilters(filters);

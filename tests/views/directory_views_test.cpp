@@ -1,7 +1,9 @@
 #include "printing.h"
 #include "view_fixture.h"
+#include "views/row_delegate.h"
 
 #include <QComboBox>
+#include <QIcon>
 #include <QTest>
 #include <QWheelEvent>
 
@@ -101,10 +103,47 @@ TEST_F(DirectoryViews, ignore_the_wheel_over_the_drives)
 TEST_F(DirectoryViews, open_the_drives_instead_of_stepping_through_them)
 {
     drives()->setFocus(Qt::TabFocusReason);
-    QTest::keyClick(drives(), Qt::Key_Down);
-    EXPECT_EQ(drives()->currentText(), u"c: [data]"_s);
+    for (Qt::Key key :
+         {Qt::Key_Down, Qt::Key_Up, Qt::Key_PageDown, Qt::Key_PageUp, Qt::Key_End, Qt::Key_Home}) {
+        QTest::keyClick(drives(), key);
+        EXPECT_TRUE(drives()->view()->isVisible()) << key;
+        EXPECT_EQ(drives()->currentText(), u"c: [data]"_s) << key;
+        EXPECT_EQ(kinovra.DataDir, u"C:\\DATA"_s) << key;
+        drives()->hidePopup();
+    }
+}
+
+TEST_F(DirectoryViews, do_nothing_while_the_pointer_passes_over_the_drives)
+{
+    drives()->showPopup();
+    Q_EMIT drives()->highlighted(1);
     EXPECT_EQ(kinovra.DataDir, u"C:\\DATA"_s);
     drives()->hidePopup();
+}
+
+TEST_F(DirectoryViews, show_where_a_directory_was_that_has_gone)
+{
+    open(u"C:\\DATA"_s);
+    machine.files.remove(u"C:\\DATA"_s);
+    click(frm.cmdRefresh);
+    QListView *view = list(u"Directory"_s);
+    EXPECT_EQ(view->model()->rowCount(), 2);
+    EXPECT_EQ(view->currentIndex().row(), 1);
+    EXPECT_TRUE(view->selectionModel()->isSelected(view->currentIndex()));
+}
+
+TEST_F(DirectoryViews, indent_each_level_and_show_what_is_open)
+{
+    const QAbstractItemModel *model = list(u"Directory"_s)->model();
+    QList<int> indents;
+    QList<qint64> icons;
+    for (int row = 0; row < 3; ++row) {
+        indents.append(model->index(row, 0).data(views::IndentRole).toInt());
+        icons.append(model->index(row, 0).data(Qt::DecorationRole).value<QIcon>().cacheKey());
+    }
+    EXPECT_EQ(indents, (QList<int>{0, 8, 16}));
+    EXPECT_EQ(icons[0], icons[1]);
+    EXPECT_NE(icons[1], icons[2]);
 }
 
 TEST_F(DirectoryViews, show_the_old_drive_again_after_an_error)

@@ -2,6 +2,8 @@
 #include "view_fixture.h"
 #include "views/file_list_view.h"
 
+#include <QApplication>
+#include <QKeyEvent>
 #include <QScrollBar>
 #include <QTest>
 
@@ -229,6 +231,98 @@ TEST_F(FileListViews, keep_the_row_that_is_aimed_at_through_the_refresh_of_the_f
     EXPECT_EQ(binaryClicks, 1);
 }
 
+TEST_F(FileListViews, open_what_was_aimed_at_through_the_refresh_of_the_focus)
+{
+    addData({"x.plt", "y.plt"});
+    click(frm.cmdRefresh);
+    addFile(u"C:\\KINOVRA\\grafow.exe"_s);
+    QListView *plots = list(u"Graphs (.PLT)"_s);
+    QString opened;
+    frm.filPlots.DblClick = [&] { opened = frm.filPlots.FileName(); };
+    const QPoint onSecond = middleOf(plots, 1);
+    addData({"a.plt", "b.plt"});
+    doubleClickAt(plots->viewport(), onSecond);
+    EXPECT_EQ(opened, u"x.plt"_s);
+}
+
+TEST_F(FileListViews, keep_the_row_that_is_aimed_at_where_it_is)
+{
+    for (int i = 0; i < 40; ++i)
+        addFile(u"C:\\DATA\\p%1.plt"_s.arg(i, 2, 10, QChar(u'0')));
+    click(frm.cmdRefresh);
+    QListView *plots = list(u"Graphs (.PLT)"_s);
+    plots->scrollTo(plots->model()->index(30, 0), QAbstractItemView::PositionAtTop);
+    const QPoint position = middleOf(plots, 32);
+    addData({"a.plt", "b.plt"});
+    QTest::mouseClick(plots->viewport(), Qt::LeftButton, Qt::NoModifier, position);
+    EXPECT_EQ(plots->indexAt(position).data().toString(), frm.filPlots.FileName());
+}
+
+TEST_F(FileListViews, can_be_entered_by_any_key_that_leads_to_a_row)
+{
+    for (Qt::Key key : {Qt::Key_Home, Qt::Key_PageUp, Qt::Key_A, Qt::Key_Down, Qt::Key_Up}) {
+        frm.filDatafiles.ListIndex = -1;
+        datafileClicks = 0;
+        kinovra.CurrentTrial.clear();
+        button(u"Exit"_s)->setFocus(Qt::TabFocusReason);
+        datafiles()->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(datafiles(), key);
+        EXPECT_EQ(frm.filDatafiles.ListIndex.value(), 0) << key;
+        EXPECT_TRUE(waitUntil([this] { return datafileClicks == 1; })) << key;
+        EXPECT_EQ(kinovra.CurrentTrial, u"a"_s) << key;
+    }
+}
+
+TEST_F(FileListViews, are_not_entered_by_other_keys)
+{
+    datafiles()->setFocus(Qt::TabFocusReason);
+    for (Qt::Key key : {Qt::Key_Shift, Qt::Key_Control, Qt::Key_F5, Qt::Key_Z})
+        QTest::keyClick(datafiles(), key);
+    EXPECT_EQ(frm.filDatafiles.ListIndex.value(), -1);
+    EXPECT_FALSE(isAboutToClick(datafiles()));
+}
+
+TEST_F(FileListViews, are_clicked_once_by_an_arrow_key_and_space)
+{
+    datafiles()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(datafiles(), Qt::Key_Down);
+    QTest::keyClick(datafiles(), Qt::Key_Space);
+    EXPECT_EQ(datafileClicks, 1);
+    EXPECT_FALSE(isAboutToClick(datafiles()));
+    QTest::keyClick(datafiles(), Qt::Key_Space);
+    EXPECT_EQ(datafileClicks, 2);
+}
+
+TEST_F(FileListViews, act_once_while_enter_or_space_is_held_down)
+{
+    int opened = 0;
+    frm.filDatafiles.DblClick = [&opened] { ++opened; };
+    clickRow(datafiles(), 1);
+    for (int key : {Qt::Key_Return, Qt::Key_Space}) {
+        for (bool repeats : {false, true, true}) {
+            QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, QString(), repeats);
+            QApplication::sendEvent(datafiles(), &press);
+        }
+    }
+    EXPECT_EQ(opened, 1);
+    EXPECT_EQ(datafileClicks, 2);
+}
+
+TEST_F(FileListViews, do_not_refresh_when_the_focus_comes_back_with_their_window)
+{
+    QListView *binaries = list(u"Binary files"_s);
+    binaries->setFocus(Qt::TabFocusReason);
+    addData({"new.km"});
+    QFocusEvent out(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+    QFocusEvent in(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+    QApplication::sendEvent(binaries, &out);
+    QApplication::sendEvent(binaries, &in);
+    EXPECT_EQ(binaries->model()->rowCount(), 2);
+    QFocusEvent byTab(QEvent::FocusIn, Qt::TabFocusReason);
+    QApplication::sendEvent(binaries, &byTab);
+    EXPECT_EQ(binaries->model()->rowCount(), 3);
+}
+
 TEST_F(FileListViews, do_not_click_on_what_was_not_there_when_it_was_aimed_at)
 {
     machine.files.remove(u"C:\\DATA\\x.km"_s);
@@ -302,6 +396,14 @@ TEST_F(GraphTypes, are_only_highlighted_by_arrow_keys)
     EXPECT_FALSE(isAboutToClick(types()));
     EXPECT_TRUE(types()->isVisible());
     EXPECT_EQ(frm.CurrentGRA, u"RUN.GRA"_s);
+}
+
+TEST_F(GraphTypes, are_found_by_typing_and_chosen_by_enter)
+{
+    QTest::keyClick(types(), Qt::Key_A);
+    QTest::keyClick(types(), Qt::Key_Return);
+    settle();
+    EXPECT_EQ(frm.CurrentGRA, u"ANGLES.GRA"_s);
 }
 
 TEST_F(GraphTypes, are_chosen_by_enter)
