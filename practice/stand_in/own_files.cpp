@@ -1,5 +1,8 @@
 #include "stand_in/own_files.h"
 
+#include "stand_in/program_table.h"
+
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <fstream>
@@ -22,6 +25,19 @@ std::string beginOf(std::ifstream &file)
     file.read(bytes.data(), bytes.size());
     std::string text(bytes.data(), static_cast<std::size_t>(file.gcount()));
     return text.substr(0, text.find('\n'));
+}
+
+// Whether a practice program writes `line` first: the title of one and the marker, nothing before or behind.
+bool isFirstLine(std::string_view line)
+{
+    if (line.ends_with('\r'))
+        line.remove_suffix(1);
+    if (!line.ends_with(Marker))
+        return false;
+    line.remove_suffix(Marker.size());
+    const auto programs = allPrograms();
+    return std::any_of(programs.begin(), programs.end(),
+                       [line](const Program &program) { return program.title == line; });
 }
 
 fs::path placeBeside()
@@ -67,7 +83,7 @@ std::optional<std::string> whyForeign(const std::string &name)
     std::ifstream file(path);
     if (!file.is_open())
         return "cannot be read";
-    if (beginOf(file).find(Marker) == std::string::npos)
+    if (!isFirstLine(beginOf(file)))
         return "was not made by a practice program";
     return std::nullopt;
 }

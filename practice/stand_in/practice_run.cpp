@@ -170,6 +170,7 @@ ExitCode run(std::string_view path, const Arguments &arguments, std::ostream &ou
     out << firstLine(program->title) << '\n';
     if (arguments.wantsUsage) {
         out << usageOf(*program);
+        pause();
         return ExitCode::Done;
     }
     const ExitCode code = Run(*program, arguments, out, err).doIt();

@@ -106,7 +106,7 @@ TEST_P(EveryStart, replacesWhatAPracticeProgramLeftBefore)
     const TrialDirectory directory;
     provide(directory, expected.needs);
     for (const std::string &name : all(expected.leaves, {}, expected.listing))
-        directory.write(name, sentenceOf("Another") + "\r\nolder\n");
+        directory.write(name, sentenceOf("Powers") + "\r\nolder\n");
 
     EXPECT_EQ(runIn(directory).exitCode, 0);
 
@@ -119,19 +119,23 @@ TEST_P(EveryStart, replacesWhatAPracticeProgramLeftBefore)
 TEST_P(EveryStart, leavesEverythingWhereAFileIsNotItsOwn)
 {
     const Expected &expected = GetParam();
+    // A practice program knows its own by the whole first line.
+    const std::vector<std::string> contents{"weeks of work\n", "Notes: " + sentenceOf("Kinemati") + '\n',
+                                            sentenceOf("Kinemati") + " Mine!\n",
+                                            sentenceOf("Another") + '\n'};
     for (const std::string &foreign : all(expected.leaves, {}, expected.listing)) {
-        for (const bool shouted : {false, true}) {
+        for (const std::string &content : contents) {
             const TrialDirectory directory;
             provide(directory, expected.needs);
-            const std::string name = shouted ? inCase(foreign, std::toupper) : foreign;
-            directory.write(name, "weeks of work\n");
+            const std::string name = &content == &contents[0] ? inCase(foreign, std::toupper) : foreign;
+            directory.write(name, content);
             const auto before = directory.names();
 
             const Ended ended = runIn(directory);
 
             EXPECT_EQ(ended.exitCode, 2) << name;
             EXPECT_THAT(linesOf(ended.err), ElementsAre(HasSubstr(name)));
-            EXPECT_EQ(directory.read(name), "weeks of work\n");
+            EXPECT_EQ(directory.read(name), content);
             EXPECT_EQ(directory.names(), before);
         }
     }
