@@ -103,11 +103,13 @@ LinuxEnvironment::LinuxEnvironment(const QList<QByteArray> &arguments, LinuxFile
 QString LinuxEnvironment::variable(const QString &name)
 {
     QByteArray value = qgetenv(name.toUtf8().constData());
-    while (value.size() > 1 && (value.endsWith('/') || value.endsWith('\\')))
+    const bool isPanelPath = value.contains(':') || value.contains('\\');
+    const qsizetype root = isPanelPath ? 3 : 1;
+    while (value.size() > root && (value.endsWith('/') || value.endsWith('\\')))
         value.chop(1);
     if (value.startsWith('/'))
         return files_.adopt(value);
-    const QByteArray directory = value.contains('/') ? realPath(value) : QByteArray();
+    const QByteArray directory = isPanelPath ? QByteArray() : realPath(value);
     return directory.isEmpty() ? QString::fromUtf8(value) : files_.adopt(directory);
 }
 

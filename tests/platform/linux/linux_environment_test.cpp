@@ -101,12 +101,20 @@ TEST_F(LinuxCommandLine, and_variables_are_in_the_path_language)
         EXPECT_EQ(environment.variable(u"KINOVRA"_s), base + u"\\data"_s);
     }
     {
-        const support::ScopedVariable variable("KINOVRA", "./data/");
-        EXPECT_EQ(environment.variable(u"KINOVRA"_s), base + u"\\data"_s);
+        for (const char *relative : {"./data/", "data/", "data", "data/."}) {
+            const support::ScopedVariable variable("KINOVRA", relative);
+            EXPECT_EQ(environment.variable(u"KINOVRA"_s), base + u"\\data"_s) << relative;
+        }
+        const support::ScopedVariable variable("KINOVRA", ".");
+        EXPECT_EQ(environment.variable(u"KINOVRA"_s), base);
     }
     {
         const support::ScopedVariable variable("KINOVRA", R"(Z:\opt\kv\)");
         EXPECT_EQ(environment.variable(u"KINOVRA"_s), u"Z:\\opt\\kv"_s);
+    }
+    {
+        const support::ScopedVariable variable("KINOVRA", "Z:\\");
+        EXPECT_EQ(environment.variable(u"KINOVRA"_s), u"Z:\\"_s);
     }
     {
         const support::ScopedVariable variable("KINOVRA", "/");
