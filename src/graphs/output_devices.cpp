@@ -35,6 +35,11 @@ DeviceRow rowOf(const std::array<DeviceRow, 4> &rows, int index, const DeviceRow
     return index >= 0 && index < 4 ? rows[static_cast<size_t>(index)] : other;
 }
 
+QString switchCleared()
+{
+    return u"Graphics switch cleared"_s;
+}
+
 void checkOnly(controls::MenuArray<4> &items, int index)
 {
     for (controls::MenuItem &item : items)
@@ -49,8 +54,9 @@ void mnuListing_Click(Panel &panel, int index)
 {
     auto [kinovra, frm, platform] = panel.parts();
 
+    // Meant: only the graphics menu's first item brings a switch back.
     if (!frm.GraphicsSwitch.isEmpty())
-        shell::say(panel, u"Graphics switch cleared"_s);
+        shell::say(panel, switchCleared());
     frm.GraphicsSwitch.clear();
     const DeviceRow row = rowOf(ListingDevices, index, OtherListingDevice);
     kinovra.ListingSwitch = QLatin1String(row.switchText);
@@ -65,6 +71,8 @@ void mnuGraphics_Click(Panel &panel, int index)
 
     const DeviceRow row = rowOf(GraphicsDevices, index, OtherGraphicsDevice);
     frm.GraphicsSwitch = QLatin1String(row.switchText);
+    if (frm.StatusBar1.Panel1.value() == switchCleared())
+        shell::say(panel, QString());
     kinovra.GraphicsDevice = QLatin1String(row.device);
     checkOnly(frm.mnuGraphics, index);
     frm.lblGraphics[1].Caption = kinovra.GraphicsDevice;

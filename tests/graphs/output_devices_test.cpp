@@ -64,6 +64,7 @@ TEST_F(OutputDevices, of_listings_clear_the_graphics_switch_and_say_so)
 
     click(frm.mnuGraphics[0]);
     EXPECT_EQ(frm.GraphicsSwitch, u"/A "_s);
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(), QString());
     click(frm.mnuListing[1]);
     EXPECT_EQ(frm.GraphicsSwitch, QString());
 }
