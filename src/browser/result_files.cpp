@@ -30,8 +30,7 @@ void openSelectedFile(Panel &panel)
     auto [kinovra, frm, platform] = panel.parts();
 
     if (!kinovra.SelectedFile.isEmpty()) {
-        launcher::openWithSystem(panel, kinovra.TextViewer, CommandText::document(kinovra.SelectedFile),
-                                 kinovra.DataDir, Show::Normal);
+        launcher::openInTextViewer(panel, kinovra.SelectedFile, kinovra.DataDir, Show::Normal);
     }
 }
 

@@ -37,8 +37,12 @@ struct Run
 void sayIfOlder(Panel &panel, const Run &run)
 {
     const auto now = panel.platform.files.stamp(run.listing());
-    if (now && now == run.listingBefore)
-        shell::say(panel, u"%1 is from before this run."_s.arg(run.listingName()));
+    if (!now || now != run.listingBefore)
+        return;
+    // What was said of the run itself, such as why it did not start, is still worth reading.
+    const QString said = panel.frm.StatusBar1.Panel1;
+    const QString older = u"%1 is from before this run."_s.arg(run.listingName());
+    shell::say(panel, said.isEmpty() ? older : said + u' ' + older);
 }
 
 bool userWantsListing(Panel &panel, const Run &run)
@@ -62,10 +66,10 @@ bool openListing(Panel &panel, const Run &run)
                        Icon::Information});
         return false;
     }
-    kinovra.TaskId = openWithSystem(panel, kinovra.TextViewer, CommandText::document(run.listing()),
-                                    run.directory, Show::Shown);
+    const QString said = frm.StatusBar1.Panel1;
+    kinovra.TaskId = openInTextViewer(panel, run.listing(), run.directory, Show::Shown);
     if (isStarted(kinovra.TaskId))
-        sayIfOlder(panel, run);
+        shell::say(panel, said);
     return true;
 }
 
@@ -83,7 +87,7 @@ qint16 RunProgram(Panel &panel, const QString &prog, const CommandText &Comm, qi
 
     run.listingBefore = platform.files.stamp(run.listing());
     kinovra.TaskId = openWithSystem(panel, UCase(prog), Comm.upperCased(), run.directory, Show::Shown);
-    if (run.writesListing())
+    if (run.writesListing() && List != 0)
         watchListing(panel, kinovra.TaskId, run.listing(), run.listingBefore);
     // The pause hangs on the prompt item, not on mnuPause; that is meant.
     if (frm.mnuPrompt.Checked)

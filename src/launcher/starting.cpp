@@ -32,8 +32,7 @@ QString endingText(const RunningProgram &program, const Ending &ending)
     if (ending.kind == Ending::Kind::Crashed)
         return u"%1 was stopped by an error (signal %2)."_s.arg(program.name, QString::number(ending.code));
     if (ending.kind == Ending::Kind::TerminalFailed)
-        return u"%1 may not have run: its terminal ended with error %2."_s.arg(program.name,
-                                                                               QString::number(ending.code));
+        return u"%1 may not have run: its terminal failed."_s.arg(program.name);
     if (ending.code != 0)
         return u"%1 ended with error %2."_s.arg(program.name, QString::number(ending.code));
     return {};
@@ -58,6 +57,17 @@ double openWithSystem(Panel &panel, const QString &file, const CommandText &para
                          .directory = directory,
                          .show = show,
                          .owner = panel.kinovra.MainWindowHandle});
+}
+
+double openInTextViewer(Panel &panel, const QString &document, const QString &directory, platform::Show show)
+{
+    return start(panel, {.verb = u"open"_s,
+                         .file = panel.kinovra.TextViewer,
+                         .parameters = CommandText::document(document),
+                         .directory = directory,
+                         .show = show,
+                         .owner = panel.kinovra.MainWindowHandle,
+                         .isViewer = true});
 }
 
 double startDirectly(Panel &panel, const QString &program, const CommandText &parameters, platform::Show show)

@@ -12,6 +12,10 @@ using shell::Panel;
 double openWithSystem(Panel &panel, const QString &file, const CommandText &parameters,
                       const QString &directory, platform::Show show);
 
+/// Asks the operating system to "open" the user's text viewer with `document`, a full path or a name in
+/// `directory`. The result is that of openWithSystem.
+double openInTextViewer(Panel &panel, const QString &document, const QString &directory, platform::Show show);
+
 /// Whether the value of an "open" means that it succeeded.
 constexpr bool isStarted(double value)
 {

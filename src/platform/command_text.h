@@ -74,7 +74,8 @@ struct Start
     CommandText parameters = {}; ///< of a direct start: what follows the program, leading blank included
     QString directory = {};
     Show show = Show::Normal;
-    qint64 owner = 0; ///< handle of the window that asks the operating system
+    qint64 owner = 0;      ///< handle of the window that asks the operating system
+    bool isViewer = false; ///< the program is no part of the package: it only shows the document
 
     bool operator==(const Start &other) const = default;
 

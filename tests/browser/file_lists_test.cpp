@@ -31,7 +31,8 @@ protected:
 
     Start openDocument(const QString &file) const
     {
-        return {u"open"_s, u"notepad.exe"_s, CommandText::document(file), u"C:\\DATA"_s, Show::Normal, 4711};
+        return {u"open"_s, u"notepad.exe"_s, CommandText::document(file), u"C:\\DATA"_s, Show::Normal, 4711,
+                true};
     }
 };
 

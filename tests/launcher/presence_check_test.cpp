@@ -103,3 +103,18 @@ TEST_F(PresenceCheck, shows_again_what_has_come_back)
     check();
     EXPECT_TRUE(frm.mnuProg[3].Visible);
 }
+
+TEST_F(PresenceCheck, is_not_repeated_later)
+{
+    const QString before = visibleItems();
+    machine.files.remove(u"C:\\KINOVRA\\noise.exe"_s);
+    machine.files.remove(u"C:\\KINOVRA\\refila.exe"_s);
+    forget();
+    click(frm.cmdRefresh);
+    addData({"one.cfb", "two.cfb"});
+    click(frm.cmdRefresh);
+    openMenu(frm.mnuProgs);
+    open(u"C:\\"_s);
+    EXPECT_EQ(visibleItems(), before);
+    EXPECT_THAT(machine.dialogs.messages, IsEmpty());
+}

@@ -120,7 +120,8 @@ TEST_F(RunProgramTest, opens_the_listing_in_the_text_viewer_on_yes)
                        CommandText::document(u"C:\\DATA\\Kinemati.out"_s),
                        u"C:\\DATA"_s,
                        Show::Shown,
-                       4711};
+                       4711,
+                       true};
     EXPECT_THAT(machine.programs.started, ElementsAre(started, viewer));
     EXPECT_EQ(kinovra.TaskId, 77);
     EXPECT_EQ(kinovra.SelectedFile, u"C:\\DATA\\Kinemati.out"_s);
@@ -295,6 +296,73 @@ TEST_F(RunProgramTest, says_that_a_listing_is_from_before_this_run)
     EXPECT_EQ(machine.programs.started.size(), 2U);
 }
 
+TEST_F(RunProgramTest, says_why_it_did_not_start_beside_the_older_listing_and_through_the_viewers_start)
+{
+    addData({"Kinemati.out"});
+    machine.programs.failure = u"Wine is not installed"_s;
+    machine.dialogs.answers = {platform::Yes};
+    machine.dialogs.whileShown = [&](const MessageBox &) { machine.programs.failure.clear(); };
+    run();
+    EXPECT_EQ(machine.programs.started.size(), 2U);
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"KINEMATI.EXE was not started: Wine is not installed. "
+                                             "Kinemati.out is from before this run."_s);
+}
+
+TEST_F(RunProgramTest, says_that_it_ended_with_an_error_beside_the_older_listing)
+{
+    addData({"Kinemati.out"});
+    machine.clock.duringPause(0.5, [&] { machine.programs.ended(42, {Ending::Kind::Exited, 3}); });
+    machine.dialogs.answers = {platform::No};
+    run();
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(),
+              u"KINEMATI.EXE ended with error 3. Kinemati.out is from before this run."_s);
+}
+
+TEST_F(RunProgramTest, sees_the_listing_of_a_program_that_ends_during_its_pause)
+{
+    QString said;
+    machine.clock.duringPause(0.5, [&] {
+        addData({"Kinemati.out"});
+        machine.programs.ended(42, {});
+        said = frm.StatusBar1.Panel1;
+    });
+    machine.dialogs.answers = {platform::No};
+    shell::dispatch(panel, [&] { run(); });
+    EXPECT_EQ(said, u"Kinemati.out is ready."_s);
+}
+
+TEST_F(RunProgramTest, runs_a_second_program_that_is_chosen_during_its_pause)
+{
+    addData({"run1.cn", "run1.cfb"});
+    addFile(u"C:\\KINOVRA\\Fourier.exe"_s);
+    kinovra.CurrentTrial = u"run1"_s;
+    machine.clock.duringPause(0.5, [&] { click(frm.mnuProg[1]); });
+    machine.dialogs.answers = {platform::No, platform::No};
+    run();
+    ASSERT_EQ(machine.programs.started.size(), 2U);
+    EXPECT_EQ(machine.programs.started[0].file, u"C:\\KINOVRA\\KINEMATI.EXE"_s);
+    EXPECT_EQ(machine.programs.started[1].file, u"C:\\KINOVRA\\FOURIER.EXE"_s);
+    ASSERT_EQ(messages().size(), 2);
+    EXPECT_TRUE(messages()[0].contains(u"FOURIER"_s));
+    EXPECT_TRUE(messages()[1].contains(u"KINEMATI"_s));
+    EXPECT_EQ(kinovra.SelectedFile, u"C:\\DATA\\Kinemati.out"_s);
+    EXPECT_THAT(machine.clock.pauses, ElementsAre(1.0, 1.0));
+}
+
+TEST_F(RunProgramTest, works_in_the_root_of_a_drive)
+{
+    machine.files.addDrive(u"d: [stick]"_s);
+    addFile(u"D:\\Kinemati.out"_s);
+    click(frm.cmdRefresh);
+    kinovra.DataDir = u"d: [stick]"_s;
+    machine.dialogs.answers = {platform::Yes};
+    run();
+    ASSERT_EQ(machine.programs.started.size(), 2U);
+    EXPECT_EQ(machine.programs.started[0].directory, u"d: [stick]"_s);
+    EXPECT_EQ(machine.programs.started[1].parameters.text(), u"d: [stick]\\Kinemati.out"_s);
+    EXPECT_EQ(kinovra.SelectedFile, u"d: [stick]\\Kinemati.out"_s);
+}
+
 TEST_F(RunProgramTest, says_nothing_about_a_listing_that_the_run_has_written)
 {
     addData({"Kinemati.out"});
@@ -344,7 +412,7 @@ TEST_F(ProgramEnds, unseen_because_its_terminal_failed_and_the_status_bar_says_s
 {
     run();
     end({Ending::Kind::TerminalFailed, 1});
-    EXPECT_EQ(said(), u"KINEMATI.EXE may not have run: its terminal ended with error 1."_s);
+    EXPECT_EQ(said(), u"KINEMATI.EXE may not have run: its terminal failed."_s);
 }
 
 TEST_F(ProgramEnds, with_a_listing_that_is_ready)
@@ -353,6 +421,14 @@ TEST_F(ProgramEnds, with_a_listing_that_is_ready)
     addData({"Kinemati.out"});
     end({});
     EXPECT_EQ(said(), u"Kinemati.out is ready."_s);
+}
+
+TEST_F(ProgramEnds, without_a_word_of_a_listing_that_is_not_offered)
+{
+    run(0);
+    addData({"Kinemati.out"});
+    end({});
+    EXPECT_EQ(said(), QString());
 }
 
 TEST_F(ProgramEnds, without_a_new_listing_in_silence)

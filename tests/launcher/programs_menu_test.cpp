@@ -537,9 +537,15 @@ TEST_F(ProgHelp, starts_the_chosen_program_with_its_help_switches)
 TEST_F(ProgHelp, cancelled_starts_nothing)
 {
     kinovra.ProgName = u"before"_s;
+    frm.ProgPath = u"path"_s;
+    kinovra.TaskId = 5;
+    frm.lblCommand.Visible = false;
     click(frm.mnuProgHelp);
     EXPECT_THAT(machine.programs.started, IsEmpty());
     EXPECT_EQ(kinovra.ProgName, u"before"_s);
+    EXPECT_EQ(frm.ProgPath, u"path"_s);
+    EXPECT_EQ(kinovra.TaskId, 5);
+    EXPECT_TRUE(frm.lblCommand.Visible);
     EXPECT_EQ(frm.lblCommand.Caption.value(), u"*.exe /? /HELP"_s);
 }
 

@@ -50,7 +50,7 @@ void waitForEnter(const std::string &message)
     while (c != '\n' && c != EOF);
 }
 
-/// Starts the program with the signals of the keyboard as they are by default.
+/// Starts the program with the signals of the terminal as they are by default.
 int startProgram(pid_t &process, char **arguments)
 {
     posix_spawnattr_t attributes{};
@@ -58,6 +58,7 @@ int startProgram(pid_t &process, char **arguments)
     sigemptyset(&keyboard);
     sigaddset(&keyboard, SIGINT);
     sigaddset(&keyboard, SIGQUIT);
+    sigaddset(&keyboard, SIGHUP);
     posix_spawnattr_init(&attributes);
     posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGDEF);
     posix_spawnattr_setsigdefault(&attributes, &keyboard);
@@ -85,9 +86,10 @@ int main(int argc, char *argv[])
     const std::string address = argv[1];
     const std::string number = argv[2];
     const std::string program = argv[FirstProgramArgument];
-    // Ctrl+C is for the program.
-    std::signal(SIGINT, SIG_IGN);
-    std::signal(SIGQUIT, SIG_IGN);
+    // Ctrl+C and the closing of the window are for the program; how it ends is still to be told. Ctrl+Z is
+    // for nobody: there is no shell to wake it up again.
+    for (int signal : {SIGINT, SIGQUIT, SIGHUP, SIGTSTP})
+        std::signal(signal, SIG_IGN);
 
     pid_t process = 0;
     const int error = startProgram(process, argv + FirstProgramArgument);

@@ -15,12 +15,23 @@ namespace platform::host {
 
 namespace {
 
+QByteArray socketIn(const QByteArray &directory)
+{
+    return directory + "/ended";
+}
+
+// The system knows only short names for sockets.
+bool isShortEnough(const QByteArray &socket)
+{
+    return socket.size() < qsizetype(sizeof sockaddr_un::sun_path);
+}
+
 QByteArray privateDirectory()
 {
     const QByteArray runtime = qgetenv("XDG_RUNTIME_DIR");
     for (const QByteArray &parent : {runtime, QByteArray("/tmp")}) {
         QByteArray path = parent + "/kinovra-XXXXXX";
-        if (parent.startsWith('/') && ::mkdtemp(path.data()) != nullptr)
+        if (parent.startsWith('/') && isShortEnough(socketIn(path)) && ::mkdtemp(path.data()) != nullptr)
             return path;
     }
     return {};
@@ -34,14 +45,14 @@ ConsoleReports::~ConsoleReports()
 {
     notifier_.reset();
     if (!directory_.isEmpty()) {
-        ::unlink((directory_ + "/ended").constData());
+        ::unlink(socketIn(directory_).constData());
         ::rmdir(directory_.constData());
     }
 }
 
 QByteArray ConsoleReports::address()
 {
-    return socket_.isValid() || open() ? directory_ + "/ended" : QByteArray();
+    return socket_.isValid() || open() ? socketIn(directory_) : QByteArray();
 }
 
 bool ConsoleReports::open()
@@ -50,8 +61,8 @@ bool ConsoleReports::open()
         directory_ = privateDirectory();
     sockaddr_un name{};
     name.sun_family = AF_UNIX;
-    const QByteArray path = directory_ + "/ended";
-    if (directory_.isEmpty() || path.size() >= qsizetype(sizeof name.sun_path))
+    const QByteArray path = socketIn(directory_);
+    if (directory_.isEmpty())
         return false;
     std::copy(path.begin(), path.end(), name.sun_path);
     FileDescriptor socket(::socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));

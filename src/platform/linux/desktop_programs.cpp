@@ -83,7 +83,7 @@ const std::vector<Accessory> &accessories()
     return table;
 }
 
-constexpr std::array<const char *, 12> Terminals{"xdg-terminal-exec",
+constexpr std::array<const char *, 15> Terminals{"xdg-terminal-exec",
                                                  "x-terminal-emulator",
                                                  "gnome-terminal",
                                                  "konsole",
@@ -91,6 +91,9 @@ constexpr std::array<const char *, 12> Terminals{"xdg-terminal-exec",
                                                  "mate-terminal",
                                                  "kgx",
                                                  "qterminal",
+                                                 "ptyxis",
+                                                 "terminator",
+                                                 "wezterm",
                                                  "alacritty",
                                                  "kitty",
                                                  "foot",
@@ -158,6 +161,18 @@ std::optional<DesktopProgram> desktopProgram(const QString &accessory)
             return own;
     }
     return firstInstalled(row->candidates, QByteArray());
+}
+
+bool needsTerminal(const QByteArray &hostPath)
+{
+    const QByteArray name = hostPath.mid(hostPath.lastIndexOf('/') + 1);
+    for (const Accessory &accessory : accessories()) {
+        for (const Candidate &candidate : accessory.candidates) {
+            if (candidate.inTerminal && name == candidate.program)
+                return true;
+        }
+    }
+    return false;
 }
 
 QString accessoryKind(const QString &accessory)

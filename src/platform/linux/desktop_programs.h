@@ -27,6 +27,9 @@ bool isAccessory(const QString &name);
 /// none is installed.
 std::optional<DesktopProgram> desktopProgram(const QString &accessory);
 
+/// Whether a program of the desktop, by its file name, needs a terminal.
+bool needsTerminal(const QByteArray &hostPath);
+
 /// What the accessory is, such as "text editor".
 QString accessoryKind(const QString &accessory);
 

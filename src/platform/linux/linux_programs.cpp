@@ -104,6 +104,8 @@ StartResult LinuxPrograms::start(const Start &start)
         const auto directory = files_.hostDirectory(start.directory);
         if (!directory)
             return failed(FileNotFound, u"the directory %1 is gone"_s.arg(start.directory));
+        if (::access(directory->constData(), X_OK) != 0)
+            return failed(AccessDenied, u"the directory %1 may not be entered"_s.arg(start.directory));
         const Command command = commandFor(start, *directory);
         if (!command.failure.isEmpty())
             return failed(command.failureValue, command.failure);
@@ -127,7 +129,7 @@ StartResult LinuxPrograms::start(const Start &start)
             inTerminals_.append(value);
         return {value, QString()};
     } catch (const RuntimeError &error) {
-        return failed(FileNotFound, error.Description.toLower());
+        return failed(FileNotFound, error.Description.left(1).toLower() + error.Description.mid(1));
     }
 }
 
@@ -161,8 +163,7 @@ LinuxPrograms::Command LinuxPrograms::programCommand(const Start &start, const Q
 {
     switch (programKindOf(program)) {
     case ProgramKind::Native:
-        return {.arguments = encoded(nativeArguments(decoded(program), start)),
-                .inTerminal = !opensWindows(program)};
+        return nativeCommand(start, program);
     case ProgramKind::WindowsConsole:
     case ProgramKind::WindowsGui: {
         const QByteArray wine = findInPath("wine");
@@ -185,6 +186,21 @@ LinuxPrograms::Command LinuxPrograms::programCommand(const Start &start, const Q
     if (::access(program.constData(), R_OK) != 0)
         return {.failure = u"permission was denied"_s, .failureValue = AccessDenied};
     return {.failure = u"it is not a program"_s, .failureValue = BadFormat};
+}
+
+LinuxPrograms::Command LinuxPrograms::nativeCommand(const Start &start, const QByteArray &program)
+{
+    // A terminal would not tell.
+    if (::access(program.constData(), X_OK) != 0)
+        return {.failure = reason(EACCES), .failureValue = AccessDenied};
+    const QByteArray interpreter = interpreterOf(program);
+    if (!interpreter.isEmpty() && ::access(interpreter.constData(), X_OK) != 0)
+        return {.failure = reason(ENOENT)};
+    if (start.isViewer)
+        return {.arguments = QList<QByteArray>{program} + encoded(documentArguments(start)),
+                .inTerminal = needsTerminal(program)};
+    return {.arguments = encoded(nativeArguments(decoded(program), start)),
+            .inTerminal = !opensWindows(program)};
 }
 
 // The desktop's own programs tell letter case apart: they get the real path of the document that was found.
@@ -214,7 +230,7 @@ void LinuxPrograms::terminalEnded(double value, const Ending &ending)
     const bool hasFailed = ending.kind != Ending::Kind::Exited || ending.code != 0;
     reports_.receive();
     if (hasFailed && inTerminals_.removeOne(value))
-        tell(value, {Ending::Kind::TerminalFailed, ending.code});
+        tell(value, {Ending::Kind::TerminalFailed});
 }
 
 void LinuxPrograms::tell(double value, const Ending &ending)

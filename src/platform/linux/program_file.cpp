@@ -31,6 +31,21 @@ ProgramKind windowsKind(QByteArrayView start, qsizetype header)
                                                                        : ProgramKind::WindowsGui;
 }
 
+// The first bytes of a file; empty where it cannot be read.
+QByteArray startOf(const QByteArray &hostPath)
+{
+    struct stat status = {};
+    if (::stat(hostPath.constData(), &status) != 0 || !S_ISREG(status.st_mode))
+        return {};
+    const FileDescriptor file(::open(hostPath.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    if (!file.isValid())
+        return {};
+    QByteArray start(HeaderSize, Qt::Uninitialized);
+    const ssize_t size = ::read(file.get(), start.data(), HeaderSize);
+    start.truncate(size < 0 ? 0 : size);
+    return start;
+}
+
 } // namespace
 
 ProgramKind programKind(QByteArrayView start)
@@ -53,16 +68,16 @@ ProgramKind programKind(QByteArrayView start)
 
 ProgramKind programKindOf(const QByteArray &hostPath)
 {
-    struct stat status = {};
-    if (::stat(hostPath.constData(), &status) != 0 || !S_ISREG(status.st_mode))
-        return ProgramKind::Unknown;
-    const FileDescriptor file(::open(hostPath.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
-    if (!file.isValid())
-        return ProgramKind::Unknown;
-    QByteArray start(HeaderSize, Qt::Uninitialized);
-    const ssize_t size = ::read(file.get(), start.data(), HeaderSize);
-    start.truncate(size < 0 ? 0 : size);
-    return programKind(start);
+    return programKind(startOf(hostPath));
+}
+
+QByteArray interpreterOf(const QByteArray &hostPath)
+{
+    const QByteArray start = startOf(hostPath);
+    if (!start.startsWith("#!"))
+        return {};
+    const QByteArray line = start.mid(2, start.indexOf('\n') - 2).simplified();
+    return line.left(line.indexOf(' '));
 }
 
 } // namespace platform::host

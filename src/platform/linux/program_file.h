@@ -19,4 +19,7 @@ ProgramKind programKind(QByteArrayView start);
 /// The kind of the program in the file `hostPath`; Unknown where it cannot be read.
 ProgramKind programKindOf(const QByteArray &hostPath);
 
+/// The interpreter that a script names in its first line; empty for what is no script.
+QByteArray interpreterOf(const QByteArray &hostPath);
+
 } // namespace platform::host

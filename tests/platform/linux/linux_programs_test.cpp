@@ -232,7 +232,7 @@ TEST_F(LinuxStarts, run_dos_programs_through_dosbox)
     install("bin/dosbox");
     scratch.makeFile("bin/OLD.EXE", QByteArray("MZ") + QByteArray(100, '\0'));
     Start start = open(at(u"BIN\\OLD.EXE"_s), u"/T "_s + CommandText::document(u"WALK1"_s));
-    // The apostrophe and the ampersand of the scratch directory's name are nothing for DOS.
+    // The ampersand of the scratch directory's name is syntax for DOS.
     EXPECT_EQ(programs.start(start).failure.left(1), u"\""_s);
     const support::ScratchDirectory plain("plain");
     std::filesystem::copy_file(scratch.path("bin/OLD.EXE").toStdString(),
@@ -341,7 +341,46 @@ TEST_F(LinuxTerminals, that_fail_are_not_taken_for_the_program)
     waitForEnd();
     EXPECT_EQ(ends.back().value, result.value);
     EXPECT_EQ(ends.back().ending.kind, Ending::Kind::TerminalFailed);
-    EXPECT_EQ(ends.back().ending.code, 1);
+}
+
+TEST_F(LinuxTerminals, do_not_hide_why_nothing_was_started)
+{
+    scratch.makeFile("bin/forbidden.exe", "#!/bin/true\n");
+    scratch.makeExecutable("bin/orphan.exe", "#! /no/such/interpreter -x\n");
+    EXPECT_EQ(programs.start(open(at(u"bin\\forbidden.exe"_s), u"x"_s)).failure, u"it may not be executed"_s);
+    EXPECT_EQ(programs.start(open(at(u"bin\\orphan.exe"_s), u"x"_s)).failure,
+              u"something that it needs to run was not found"_s);
+}
+
+TEST_F(LinuxTerminals, show_windows_console_programs_and_no_others)
+{
+    const auto windowsProgram = [](char subsystem) {
+        QByteArray header(200, '\0');
+        header[24 + 68 - 4] = subsystem;
+        return QByteArray("MZ") + QByteArray(58, '\0') + QByteArray("\x40\0\0\0", 4) + QByteArray("PE\0\0", 4)
+               + header;
+    };
+    scratch.remove("bin/kitty");
+    install("bin/kitty");
+    install("bin/wine");
+    scratch.makeFile("Console.exe", windowsProgram(3));
+    scratch.makeFile("Window.exe", windowsProgram(2));
+    EXPECT_EQ(run(open(at(u"WINDOW.EXE"_s), u"x"_s)).value(1), scratch.path("bin/wine"));
+    EXPECT_EQ(programs.start(open(at(u"CONSOLE.EXE"_s), u"x"_s)).failure, QString());
+    QDeadlineTimer deadline(20'000);
+    while (!record().value(1).endsWith("kitty") && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+    EXPECT_EQ(record().mid(5),
+              (QList<QByteArray>{scratch.path("bin/wine"), scratch.path("Console.exe"), "x"}));
+}
+
+TEST_F(LinuxTerminals, are_not_for_viewers_which_get_the_real_path)
+{
+    scratch.makeFile("Listing.OUT");
+    Start start = open(at(u"Program Files\\Kinemati.exe"_s), CommandText::document(at(u"listing.out"_s)));
+    start.isViewer = true;
+    EXPECT_EQ(run(start), (QList<QByteArray>{scratch.path(), scratch.path("Program Files/Kinemati.exe"),
+                                             scratch.path("Listing.OUT")}));
 }
 
 TEST_F(LinuxTerminals, are_not_for_programs_with_windows_of_their_own)
