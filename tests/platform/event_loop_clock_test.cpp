@@ -46,6 +46,23 @@ TEST(EventLoopClock, does_not_wait_for_the_past)
     EXPECT_TRUE(ran);
 }
 
+TEST(EventLoopClock, may_pause_within_a_pause)
+{
+    platform::EventLoopClock clock;
+    double innerEnd = 0;
+    double innerUntil = 0;
+    QTimer::singleShot(10, [&] {
+        innerUntil = clock.seconds() + 0.1;
+        clock.letEventsRunUntil(innerUntil);
+        innerEnd = clock.seconds();
+    });
+    const double until = clock.seconds() + 0.05;
+    clock.letEventsRunUntil(until);
+    EXPECT_GE(clock.seconds(), until);
+    EXPECT_GT(innerUntil, 0);
+    EXPECT_GE(innerEnd, innerUntil) << "the inner pause lasts longer, and the outer one waits for it";
+}
+
 TEST(EventLoopClock, leaves_its_pauses_when_the_program_ends)
 {
     platform::EventLoopClock clock;

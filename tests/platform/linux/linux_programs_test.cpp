@@ -12,11 +12,13 @@
 #include <QTimer>
 #include <gmock/gmock.h>
 
+#include <cerrno>
 #include <filesystem>
 #include <optional>
 #include <random>
 
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -176,6 +178,51 @@ TEST_F(LinuxStarts, pass_names_that_are_no_text)
 TEST_F(LinuxStarts, tell_exit_codes_and_crashes)
 {
     expectThatEndingsAreTold();
+}
+
+TEST_F(LinuxStarts, begin_clean_in_a_session_of_their_own_and_leave_no_zombie)
+{
+    scratch.makeExecutable("bin/look.exe", "#!/bin/sh\n"
+                                           "/bin/ls /proc/self/fd >fds\n"
+                                           "/bin/grep '^SigBlk' /proc/$$/status >signals\n"
+                                           "read -r pid name state parent group session rest </proc/$$/stat\n"
+                                           "echo $(($$ - session)) >session\n");
+    result = programs.start(open(at(u"bin\\look.exe"_s), u"x"_s));
+    EXPECT_EQ(result.failure, QString());
+    waitForEnd();
+    // The fourth is its own, on the directory that it lists.
+    EXPECT_EQ(scratch.read("fds"), "0\n1\n2\n3\n");
+    EXPECT_EQ(scratch.read("signals"), "SigBlk:\t0000000000000000\n");
+    EXPECT_EQ(scratch.read("session"), "0\n");
+    EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1);
+    EXPECT_EQ(errno, ECHILD);
+}
+
+TEST_F(LinuxStarts, outlive_the_panel)
+{
+    scratch.makeExecutable("bin/slow.exe", "#!/bin/sh\n/bin/sleep 0.2\necho done >late\n");
+    {
+        LinuxPrograms passing(files, ConsoleHelper);
+        EXPECT_EQ(passing.start(open(at(u"bin\\slow.exe"_s), u"x"_s)).failure, QString());
+    }
+    QDeadlineTimer deadline(20'000);
+    while (scratch.read("late").isEmpty() && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    EXPECT_EQ(scratch.read("late"), "done\n");
+    ::wait(nullptr);
+}
+
+TEST_F(LinuxStarts, run_in_directories_with_very_long_names)
+{
+    const QByteArray name(250, 'n');
+    QByteArray deep = name;
+    for (int i = 0; i < 12; ++i)
+        deep += '/' + name;
+    scratch.makeDirectory(deep);
+    install(deep + "/Kv.exe");
+    Start start = open(files.adopt(scratch.path(deep)) + u"\\KV.EXE"_s, u"x"_s);
+    start.directory = files.adopt(scratch.path(deep));
+    EXPECT_EQ(run(start), (QList<QByteArray>{scratch.path(deep), scratch.path(deep + "/Kv.exe"), "x"}));
 }
 
 TEST_F(LinuxStarts, say_why_nothing_was_started)
