@@ -77,6 +77,10 @@ TEST_F(DatafileClick, reads_the_title_in_the_data_directory_whatever_directory_i
 TEST_F(DatafileClick, hints_a_novice_at_the_converters_for_other_files)
 {
     frm.lblTitle.Caption = u"old"_s;
+    machine.dialogs.whileShown = [&](const MessageBox &) {
+        EXPECT_EQ(frm.lblTrial.Caption.value(), u"KICK.1t"_s);
+        EXPECT_EQ(frm.lblTitle.Caption.value(), u"old"_s);
+    };
     click(frm.filDatafiles, u"kick.1t"_s);
     EXPECT_THAT(machine.dialogs.messages, ElementsAre(UseConvert));
     EXPECT_EQ(frm.lblTitle.Caption.value(), u" (unknown)"_s);
@@ -209,6 +213,16 @@ TEST_F(LongNames, of_a_file_that_is_gone_have_no_short_form)
                           "Press Yes to continue or No to select a different file."_s});
 }
 
+TEST_F(LongNames, end_silently_where_the_window_is_closed_meanwhile)
+{
+    machine.dialogs.answers = {platform::Yes};
+    machine.dialogs.whileShown = [&](const MessageBox &) { shell::dispatch(panel, frm.Unload); };
+    click(frm.filModels, u"long model.cfb"_s);
+    EXPECT_EQ(kinovra.CurrentTrial, QString());
+    EXPECT_EQ(messages().size(), 1);
+    EXPECT_THAT(machine.settings.written, IsEmpty());
+}
+
 class ModelClick : public support::PanelFixture
 {
 protected:
@@ -258,6 +272,19 @@ TEST_F(ModelClick, shows_that_a_model_is_empty_or_unreadable)
     EXPECT_EQ(frm.lblTitle.Caption.value(), u" Unreadable or empty file."_s);
     EXPECT_THAT(machine.dialogs.messages, IsEmpty());
     EXPECT_EQ(kinovra.CurrentTrial, u"walk"_s);
+}
+
+TEST_F(ModelClick, shows_that_a_model_may_not_be_read)
+{
+    click(frm.filModels, u"run.cfb"_s);
+    forget();
+    machine.files.beforeCall = [](const QString &call) {
+        if (call == u"firstLine")
+            throw platform::RuntimeError(ErrorNumber::PermissionDenied);
+    };
+    click(frm.filModels, u"walk.cfb"_s);
+    EXPECT_EQ(frm.lblTitle.Caption.value(), u" Unreadable or empty file."_s);
+    EXPECT_THAT(machine.dialogs.messages, IsEmpty());
 }
 
 class TestTrialTest : public support::PanelFixture

@@ -131,6 +131,22 @@ TEST_F(Directories, ask_about_a_single_model_with_a_long_name)
     EXPECT_FALSE(frm.filPlots.Visible);
 }
 
+TEST_F(Directories, with_a_single_model_with_a_long_name_choose_it_on_yes)
+{
+    addFile(u"C:\\One\\my model.cfb"_s, "Title\n");
+    machine.files.setShortName(u"C:\\One\\my model.cfb"_s, u"MYMODE~1.CFB"_s);
+    open(u"C:\\"_s);
+    frm.filDatafiles.Visible = false;
+    frm.lblPlots.Visible = false;
+    machine.dialogs.answers = {platform::Yes};
+    open(u"C:\\One"_s);
+    EXPECT_EQ(kinovra.CurrentTrial, u"my model"_s);
+    EXPECT_EQ(frm.lblTrial.Caption.value(), u"MY MODEL"_s);
+    EXPECT_EQ(frm.filModels.ListIndex.value(), 0);
+    EXPECT_TRUE(frm.filDatafiles.Visible);
+    EXPECT_TRUE(frm.lblPlots.Visible);
+}
+
 TEST_F(Directories, show_the_lists_that_were_hidden)
 {
     const std::initializer_list<controls::Control *> lists{
@@ -233,6 +249,18 @@ TEST_F(Directories, of_a_drive_that_is_not_ready_are_reported_and_the_old_drive_
     EXPECT_EQ(frm.drvDrives.Drive.value(), u"c: [data]"_s);
     EXPECT_EQ(kinovra.DataDir, u"C:\\DATA"_s);
     EXPECT_EQ(machine.files.currentDirectory(), u"C:\\DATA"_s);
+}
+
+TEST_F(Directories, of_a_drive_that_cannot_become_current_are_reported_by_path_and_by_drive)
+{
+    addFile(u"D:\\RUN5.DG"_s);
+    machine.files.beforeCall = [](const QString &call) {
+        if (call == u"changeDirectory")
+            throw platform::RuntimeError(ErrorNumber::PathNotFound);
+    };
+    chooseDrive(u"d: [stick]"_s);
+    EXPECT_EQ(messages(), (QStringList{u"There was a problem finding a path.  Error was Path not found"_s,
+                                       u"There was a drive problem.\nError was: Path not found"_s}));
 }
 
 TEST_F(Directories, of_a_drive_that_was_pulled_out_are_reported)

@@ -182,6 +182,17 @@ TEST_F(FileLists, binaries_without_a_selection_are_forgotten)
     EXPECT_EQ(kinovra.BinaryFile, QString());
 }
 
+TEST_F(FileLists, binaries_without_a_selection_cannot_be_viewed)
+{
+    click(frm.filBinaries, u"run2.en"_s);
+    frm.filBinaries.ListIndex = -1;
+    shell::dispatch(panel, frm.filBinaries.DblClick);
+    EXPECT_EQ(kinovra.BinaryFile, QString());
+    EXPECT_EQ(kinovra.CurrentExtension, QString());
+    EXPECT_EQ(messages(), QStringList{u"Cannot view binary files with Notepad."_s});
+    EXPECT_THAT(machine.programs.started, IsEmpty());
+}
+
 TEST_F(FileLists, binaries_that_are_none_are_told)
 {
     kinovra.BinaryFile = u"old.km"_s;
@@ -271,6 +282,15 @@ TEST_F(FileLists, plots_clicked_are_remembered)
     click(frm.filPlots, u"walk.left.plt"_s);
     EXPECT_EQ(kinovra.SelectedFile, u"walk.left.plt"_s);
     EXPECT_EQ(frm.SelectedPlot, u"walk.left.plt"_s);
+}
+
+TEST_F(FileLists, plots_without_a_selection_are_forgotten)
+{
+    click(frm.filPlots, u"walk.left.plt"_s);
+    frm.filPlots.ListIndex = -1;
+    shell::dispatch(panel, frm.filPlots.Click);
+    EXPECT_EQ(kinovra.SelectedFile, QString());
+    EXPECT_EQ(frm.SelectedPlot, QString());
 }
 
 TEST_F(FileLists, plots_that_are_none_are_told)
@@ -371,6 +391,10 @@ TEST_F(FileLists, graph_types_that_are_none_are_told_and_cannot_be_edited)
     click(frm.cmdSelectGra);
     frm.filGraFiles.refresh({});
     frm.lblGraphics[0].Caption = u"?"_s;
+    machine.dialogs.whileShown = [&](const MessageBox &) {
+        EXPECT_FALSE(frm.filGraFiles.Visible) << "the choice is over before the box is shown";
+        EXPECT_TRUE(frm.cmdGraph.Visible && frm.cmdSelectGra.Visible && frm.cmdEditGra.Visible);
+    };
     shell::dispatch(panel, frm.filGraFiles.Click);
     EXPECT_THAT(
         machine.dialogs.messages,
@@ -395,4 +419,5 @@ TEST_F(FileLists, graph_types_are_cancelled_by_the_right_button)
     EXPECT_TRUE(frm.cmdSelectGra.Visible);
     EXPECT_TRUE(frm.cmdEditGra.Visible);
     EXPECT_EQ(frm.CurrentGRA, u"RUN.GRA"_s);
+    EXPECT_EQ(frm.filGraFiles.ListIndex.value(), 1) << "the right button neither selects nor clicks";
 }

@@ -131,7 +131,7 @@ TEST_F(StartUp, sets_what_holds_for_the_whole_run)
     start();
     EXPECT_EQ(frm.LineBreak, u"\n"_s);
     EXPECT_EQ(kinovra.ProgName, u"KVwin98.exe"_s);
-    EXPECT_EQ(kinovra.WebHome, u"https://example.org/kinovra/kinovra.htm"_s);
+    EXPECT_EQ(kinovra.WebHome, QStringLiteral(KINOVRA_WEB_HOME));
     EXPECT_EQ(frm.Loaded, 1);
     EXPECT_EQ(frm.StartDir, u"C:\\DATA"_s);
     EXPECT_EQ(frm.lblCommand.Caption.value(), QString());
