@@ -3,7 +3,7 @@
 #include "platform/letter_case.h"
 #include "platform/runtime_error.h"
 #include "shell/dispatch.h"
-#include "shell/path_helpers.h"
+#include "shell/file_names.h"
 #include "shell/stored_settings.h"
 
 using namespace Qt::StringLiterals;

@@ -3,7 +3,7 @@
 #include "launcher/starting.h"
 #include "platform/letter_case.h"
 #include "shell/dispatch.h"
-#include "shell/path_helpers.h"
+#include "shell/file_names.h"
 
 using namespace Qt::StringLiterals;
 

@@ -36,7 +36,8 @@ class Programs
 public:
     virtual ~Programs() = default;
 
-    /// Starts what `start` says. Never raises: a start that fails says why in its result.
+    /// Starts what `start` says. The value of a start that worked is its own in this run. Never raises: a
+    /// start that fails says why in its result.
     virtual StartResult start(const Start &start) = 0;
 
     /// Called when a started program has ended, with the value that its start gave, wherever that can be

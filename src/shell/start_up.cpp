@@ -10,7 +10,7 @@
 #include "shell/build_values.h"
 #include "shell/command_line.h"
 #include "shell/dispatch.h"
-#include "shell/path_helpers.h"
+#include "shell/file_names.h"
 #include "shell/stored_settings.h"
 
 #include <QStringBuilder>

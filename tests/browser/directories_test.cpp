@@ -165,9 +165,11 @@ TEST_F(Directories, are_read_once_when_they_are_opened)
 {
     open(u"C:\\"_s);
     machine.files.directoriesRead = 0;
+    machine.files.directoriesReadAnew = 0;
     open(u"C:\\Trials"_s);
     // Once for the directory list and once for all file lists; the host serves the second from the first.
     EXPECT_EQ(machine.files.directoriesRead, 2);
+    EXPECT_EQ(machine.files.directoriesReadAnew, 1);
 }
 
 TEST_F(Directories, opened_again_keep_the_trial)

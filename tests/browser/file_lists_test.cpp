@@ -108,10 +108,12 @@ TEST_F(FileLists, refreshed_come_back_but_for_the_outputs)
 
 TEST_F(FileLists, refreshed_read_each_directory_once)
 {
+    machine.files.directoriesReadAnew = 0;
     click(frm.cmdRefresh);
     // The data directory for five lists, again for the directory list (which the host serves from the first
     // reading), and the graph types.
     EXPECT_EQ(machine.files.directoriesRead, 3);
+    EXPECT_EQ(machine.files.directoriesReadAnew, 2);
     EXPECT_EQ(machine.clock.pendingRuns, 1);
 }
 

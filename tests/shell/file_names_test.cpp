@@ -1,6 +1,6 @@
 #include "panel_fixture.h"
 #include "printing.h"
-#include "shell/path_helpers.h"
+#include "shell/file_names.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,4 +1,4 @@
-#include "shell/path_helpers.h"
+#include "shell/file_names.h"
 
 #include "platform/runtime_error.h"
 
