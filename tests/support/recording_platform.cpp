@@ -79,7 +79,8 @@ std::optional<QString> RecordingDialogs::openFile(const platform::OpenFileReques
     requests.push_back(request);
     if (chosenFiles.empty())
         return std::nullopt;
-    auto chosen = chosenFiles.front();
+    std::optional<QString> chosen;
+    chosen.swap(chosenFiles.front());
     chosenFiles.pop_front();
     return chosen;
 }
