@@ -102,6 +102,7 @@ bool benchMenu()
     Scene scene(LargeDirectory::Kind::Mixed);
     scene.bench.panel().kinovra.CurrentTrial = QStringLiteral("Trial100006");
     std::vector<std::string> paths;
+    paths.reserve(Asked.size());
     for (const char *name : Asked)
         paths.push_back(scene.large.path() + '/' + name);
     // The directory has been quiet for a while, as when a user opens a menu.
