@@ -190,7 +190,7 @@ mnuHelp |&Help|
 
 QString render(const MenuRow &row)
 {
-    const QString indent(row.depth * 4, u' ');
+    const QString indent(qsizetype(row.depth) * 4, u' ');
     if (row.isSeparator())
         return indent + u'-';
     const QString index = row.index < 0 ? QString() : u"(%1)"_s.arg(row.index);

@@ -264,7 +264,7 @@ protected:
             {"Warning.  Data file has a 'long' filename", {u"SelectedFile"_s, u"TaskId"_s}},
             {"Cannot view binary files with Notepad.", {u"BinaryFile"_s, u"CurrentExtension"_s}},
             {"Data have not been Refined/scaled or Converted.", {u"Answer"_s}},
-            {"Error opening file: \"C:\\KINOVRA\\KINEMATI.EXE\"",
+            {R"(Error opening file: "C:\KINOVRA\KINEMATI.EXE")",
              {u"ProgName"_s, u"ProgPath"_s, u"Comm"_s, u"Answer"_s}},
             {"No models (.CFB files) in this directory.", {u"Answer"_s}},
         };

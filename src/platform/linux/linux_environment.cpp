@@ -74,7 +74,7 @@ QString panelForm(const QByteArray &argument, LinuxFileSystem &files)
     if (isRegularFile(argument))
         return adoptFile(argument, files);
     if (isRelative(argument)) {
-        const QString path = adoptFile(argument, files);
+        QString path = adoptFile(argument, files);
         if (!path.isNull())
             return path;
     }

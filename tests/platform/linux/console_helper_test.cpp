@@ -49,7 +49,7 @@ protected:
         return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     }
 
-    ~ConsoleHelperTest() override { ::close(terminal_); }
+    void TearDown() override { ::close(terminal_); }
 
 private:
     int terminal_ = -1;
