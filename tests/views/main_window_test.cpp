@@ -408,7 +408,7 @@ TEST_F(MainWindowView, is_activated)
 class MainWindowFonts : public MainWindowView
 {
 protected:
-    ~MainWindowFonts() override { QApplication::setFont(before); }
+    void TearDown() override { QApplication::setFont(before); }
 
     QFont inPoints(double size) const
     {
