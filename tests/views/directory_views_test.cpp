@@ -80,6 +80,21 @@ TEST_F(DirectoryViews, act_when_a_drive_is_chosen)
     EXPECT_EQ(drives()->currentText(), u"d: [stick]"_s);
 }
 
+TEST_F(DirectoryViews, let_a_click_that_a_list_holds_back_run_with_the_old_drive)
+{
+    addData({"walk1.dg"});
+    click(frm.cmdRefresh);
+    QString driveAtClick;
+    frm.filDatafiles.Click = [&] { driveAtClick = frm.drvDrives.Drive; };
+    QListView *datafiles = list(u"Data files"_s);
+    datafiles->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(datafiles, Qt::Key_Down);
+    drives()->setCurrentIndex(1);
+    Q_EMIT drives()->activated(1);
+    EXPECT_EQ(driveAtClick, u"c: [data]"_s);
+    EXPECT_EQ(kinovra.DataDir, u"d: [stick]"_s);
+}
+
 TEST_F(DirectoryViews, do_nothing_when_the_same_drive_is_chosen)
 {
     kinovra.CurrentTrial = u"RUN1"_s;

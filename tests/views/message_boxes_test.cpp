@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -57,6 +58,20 @@ protected:
 };
 
 } // namespace
+
+TEST_F(MessageBoxViews, belong_to_the_main_window_while_another_program_is_the_active_one)
+{
+    QMainWindow mainWindow;
+    mainWindow.show();
+    QApplication::setActiveWindow(nullptr);
+    const QWidget *owner = nullptr;
+    whenShown<QMessageBox>([&owner](QMessageBox &window) {
+        owner = window.parentWidget();
+        window.accept();
+    });
+    boxes.message({u"text"_s});
+    EXPECT_EQ(owner, &mainWindow);
+}
 
 TEST_F(MessageBoxViews, have_the_applications_title_without_one_of_their_own)
 {
