@@ -24,7 +24,13 @@ struct FileStamp
     qint64 changed = 0;  ///< nanoseconds
 
     bool operator==(const FileStamp &other) const = default;
+
+    /// Whether both are states of one file, whatever it was called.
+    bool isOfSameFile(const FileStamp &other) const { return device == other.device && node == other.node; }
 };
+
+/// Whether the user has agreed that a copy takes the place of the file that is there.
+enum class Replacing { Refused, Agreed };
 
 /// Files and directories in the panel's path language. Letter case does not count in any name. A drive text
 /// ("c: [label]") is accepted wherever a path is, also in front of one. Calls raise RuntimeError; opening a
@@ -66,6 +72,18 @@ public:
 
     /// The present state of a file; nothing where there is none.
     virtual std::optional<FileStamp> stamp(const QString &path) = 0;
+
+    /// The full path, in its true spelling, of the file that writing to `path` would change; links are
+    /// followed. Nothing where there is no such file. Raises as changeDirectory does.
+    virtual std::optional<QString> existingFile(const QString &path) = 0;
+
+    /// Copies the file `source` to `destination`, whole or not at all: whatever fails, and even if the
+    /// program is killed, the destination is what it was or the complete copy. A file that is there in
+    /// another case is the one that is replaced, and keeps its spelling. Begins the next moment. Raises what
+    /// testReading answers for the source; for the destination FileAlreadyExists where `replacing` is
+    /// refused, FileAlreadyOpen where another program keeps it open and the system cannot replace it,
+    /// PathFileAccess for what is no file, PermissionDenied, PathNotFound; DiskFull and DeviceError.
+    virtual void copyFile(const QString &source, const QString &destination, Replacing replacing) = 0;
 
     /// Begins a moment, and ends it: in between all questions are answered for that moment, so that whether a
     /// directory has changed is looked up once and not for each of them. The dispatcher gives every handler

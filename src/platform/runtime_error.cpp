@@ -17,6 +17,8 @@ QString describe(ErrorNumber number)
         return u"File already open"_s;
     case ErrorNumber::DeviceError:
         return u"Device I/O error"_s;
+    case ErrorNumber::FileAlreadyExists:
+        return u"File already exists"_s;
     case ErrorNumber::DiskFull:
         return u"Disk full"_s;
     case ErrorNumber::InputPastEnd:

@@ -13,6 +13,7 @@ enum class ErrorNumber : qint16 {
     FileNotFound = 53,
     FileAlreadyOpen = 55,
     DeviceError = 57,
+    FileAlreadyExists = 58,
     DiskFull = 61,
     InputPastEnd = 62,
     DeviceUnavailable = 68,

@@ -14,6 +14,7 @@
 using namespace Qt::StringLiterals;
 using platform::FileSystem;
 using platform::Reading;
+using platform::Replacing;
 
 namespace {
 
@@ -28,6 +29,8 @@ public:
     virtual void makeFile(const QString &name, const QByteArray &content) = 0;
     virtual void makeHidden(const QString &name) = 0;
     virtual void remove(const QString &name) = 0;
+    /// What the file holds; "(none)" where there is no such file by exactly this name.
+    virtual QByteArray content(const QString &name) = 0;
 };
 
 class MemoryWorld : public World
@@ -47,6 +50,11 @@ public:
         files_.hide(path(u'.' + name));
     }
     void remove(const QString &name) override { files_.remove(path(name)); }
+    QByteArray content(const QString &name) override
+    {
+        const auto spelled = files_.existingFile(path(name));
+        return spelled == path(name) ? files_.content(path(name)).value_or("(none)") : "(none)";
+    }
 
 private:
     QString path(const QString &name) { return base() + u'\\' + name; }
@@ -66,6 +74,10 @@ public:
     }
     void makeHidden(const QString &name) override { scratch_.makeFile('.' + name.toUtf8()); }
     void remove(const QString &name) override { scratch_.remove(name.toUtf8()); }
+    QByteArray content(const QString &name) override
+    {
+        return scratch_.has(name.toUtf8()) ? scratch_.read(name.toUtf8()) : "(none)";
+    }
 
 private:
     support::ScratchDirectory scratch_{"Some Place"};
@@ -278,6 +290,87 @@ TEST_P(FileSystemContract, stamps_change_when_a_file_is_written)
     world->makeFile(u"Kinemati.out"_s, "longer");
     EXPECT_NE(files.stamp(at(u"Kinemati.out"_s)), first);
     EXPECT_FALSE(files.stamp(u"Q:\\x"_s).has_value());
+}
+
+TEST_P(FileSystemContract, tells_one_file_from_another)
+{
+    world->makeFile(u"walk1.cfb"_s, "x");
+    world->makeFile(u"walk2.cfb"_s, "x");
+    const auto walk1 = files.stamp(at(u"walk1.cfb"_s));
+    const auto walk2 = files.stamp(at(u"walk2.cfb"_s));
+    ASSERT_TRUE(walk1 && walk2);
+    EXPECT_FALSE(walk1->isOfSameFile(*walk2));
+    world->makeFile(u"walk1.cfb"_s, "written anew");
+    EXPECT_TRUE(walk1->isOfSameFile(files.stamp(at(u"WALK1.CFB"_s)).value()));
+}
+
+TEST_P(FileSystemContract, spells_an_existing_file)
+{
+    world->makeFile(u"Walk1.Cfb"_s, "x");
+    world->makeDirectory(u"folder.cfb"_s);
+    EXPECT_EQ(files.existingFile(at(u"WALK1.CFB"_s)), at(u"Walk1.Cfb"_s));
+    EXPECT_EQ(files.existingFile(at(u"WALK1.CFB"_s).toUpper()), at(u"Walk1.Cfb"_s));
+    EXPECT_EQ(files.existingFile(at(u"missing.cfb"_s)), std::nullopt);
+    EXPECT_EQ(files.existingFile(at(u"nowhere\\walk1.cfb"_s)), std::nullopt);
+    EXPECT_EQ(files.existingFile(at(u"folder.cfb"_s)), std::nullopt);
+    EXPECT_EQ(errorOf([&] { files.existingFile(u"Q:\\walk1.cfb"_s); }), 68);
+    EXPECT_EQ(errorOf([&] { files.existingFile(at(u"a:b.cfb"_s)); }), 52);
+}
+
+TEST_P(FileSystemContract, copies_a_file)
+{
+    const QByteArray content = QByteArray("model\r\n\0\xFF", 9).repeated(50'000);
+    world->makeFile(u"Walk1.cfb"_s, content);
+    files.copyFile(at(u"WALK1.CFB"_s), at(u"Walk3.CFB"_s), Replacing::Refused);
+    EXPECT_EQ(world->content(u"Walk3.CFB"_s), content);
+    EXPECT_EQ(world->content(u"Walk1.cfb"_s), content);
+    EXPECT_EQ(files.directory(world->base(), Reading::WhenChanged)->files(u"*"_s).toList(),
+              (QStringList{u"Walk1.cfb"_s, u"Walk3.CFB"_s}));
+    world->makeFile(u"empty.cfb"_s, QByteArray());
+    files.copyFile(at(u"empty.cfb"_s), at(u"copy of empty.CFB"_s), Replacing::Agreed);
+    EXPECT_EQ(world->content(u"copy of empty.CFB"_s), QByteArray());
+}
+
+TEST_P(FileSystemContract, replaces_a_file_only_where_that_was_agreed)
+{
+    world->makeFile(u"walk1.cfb"_s, "new");
+    world->makeFile(u"walk2.Cfb"_s, "old and longer");
+    EXPECT_EQ(errorOf([&] { files.copyFile(at(u"walk1.cfb"_s), at(u"WALK2.CFB"_s), Replacing::Refused); }),
+              58);
+    EXPECT_EQ(world->content(u"walk2.Cfb"_s), "old and longer");
+    files.copyFile(at(u"walk1.cfb"_s), at(u"WALK2.CFB"_s), Replacing::Agreed);
+    EXPECT_EQ(world->content(u"walk2.Cfb"_s), "new");
+    EXPECT_EQ(world->content(u"WALK2.CFB"_s), "(none)") << "it would be a second model of that name";
+    EXPECT_EQ(world->content(u"walk1.cfb"_s), "new");
+}
+
+TEST_P(FileSystemContract, says_why_a_file_cannot_be_copied)
+{
+    world->makeFile(u"walk1.cfb"_s, "model");
+    world->makeDirectory(u"folder.cfb"_s);
+    const auto copy = [&](const QString &source, const QString &destination) {
+        return errorOf([&] { files.copyFile(source, destination, Replacing::Agreed); });
+    };
+    EXPECT_EQ(copy(at(u"missing.cfb"_s), at(u"new.cfb"_s)), 53);
+    EXPECT_EQ(copy(at(u"nowhere\\walk1.cfb"_s), at(u"new.cfb"_s)), 76);
+    EXPECT_EQ(copy(at(u"folder.cfb"_s), at(u"new.cfb"_s)), 75);
+    EXPECT_EQ(copy(at(u"walk1.cfb"_s), at(u"nowhere\\new.cfb"_s)), 76);
+    EXPECT_EQ(copy(at(u"walk1.cfb"_s), at(u"folder.cfb"_s)), 75);
+    EXPECT_EQ(copy(at(u"walk1.cfb"_s), u"Q:\\new.cfb"_s), 68);
+    EXPECT_EQ(copy(at(u"walk1.cfb"_s), at(u"a:b.cfb"_s)), 52);
+    EXPECT_EQ(copy(u"\\\\server\\share\\walk1.cfb"_s, at(u"new.cfb"_s)), 76);
+    EXPECT_EQ(world->content(u"new.cfb"_s), "(none)");
+    EXPECT_EQ(world->content(u"walk1.cfb"_s), "model");
+}
+
+TEST_P(FileSystemContract, shows_a_copy_within_the_moment_in_which_it_was_made)
+{
+    world->makeFile(u"walk1.cfb"_s, "model");
+    files.beginMoment();
+    EXPECT_EQ(files.testReading(at(u"NEW.CFB"_s)), 53);
+    files.copyFile(at(u"walk1.cfb"_s), at(u"new.CFB"_s), Replacing::Refused);
+    EXPECT_EQ(files.testReading(at(u"NEW.CFB"_s)), 0);
+    files.endMoment();
 }
 
 INSTANTIATE_TEST_SUITE_P(Platforms, FileSystemContract, testing::Values(&make<MemoryWorld>, &make<HostWorld>),

@@ -39,6 +39,8 @@ MemoryFileSystem::Node &MemoryFileSystem::makeNode(const QString &path)
     if (node.path.isEmpty())
         node.path =
             parent == path ? path : platform::joinPath(nodes_[UCase(parent)].path, platform::nameOf(path));
+    if (node.number == 0)
+        node.number = ++numbers_;
     node.version = ++version_;
     return node;
 }
@@ -61,6 +63,20 @@ void MemoryFileSystem::hide(const QString &path)
 void MemoryFileSystem::forbid(const QString &path, ErrorNumber error)
 {
     nodes_[UCase(path)].error = error;
+}
+
+void MemoryFileSystem::addSecondName(const QString &path, const QString &secondName)
+{
+    const Node file = nodes_[UCase(path)];
+    Node &second = makeNode(secondName);
+    second.content = file.content;
+    second.number = file.number;
+}
+
+std::optional<QByteArray> MemoryFileSystem::content(const QString &path) const
+{
+    const auto found = nodes_.constFind(UCase(path));
+    return found == nodes_.constEnd() || found->isDirectory ? std::nullopt : std::optional(found->content);
 }
 
 void MemoryFileSystem::setShortName(const QString &path, const QString &shortName)
@@ -214,8 +230,38 @@ std::optional<platform::FileStamp> MemoryFileSystem::stamp(const QString &path)
     const Node *node = find(current_.absolute(path));
     if (node == nullptr)
         return std::nullopt;
-    return platform::FileStamp{
-        .size = node->content.size(), .modified = node->version, .changed = node->version};
+    return platform::FileStamp{.node = node->number,
+                               .size = node->content.size(),
+                               .modified = node->version,
+                               .changed = node->version};
+}
+
+std::optional<QString> MemoryFileSystem::existingFile(const QString &path)
+{
+    announce("existingFile");
+    const Node *node = find(absolute(path));
+    return node == nullptr || node->isDirectory ? std::nullopt : std::optional(node->path);
+}
+
+void MemoryFileSystem::copyFile(const QString &source, const QString &destination,
+                                platform::Replacing replacing)
+{
+    announce("copyFile");
+    nextMoment();
+    const QByteArray content = openable(source).content;
+    const QString full = absolute(destination);
+    if (find(platform::parentOf(full)) == nullptr)
+        throw RuntimeError(ErrorNumber::PathNotFound);
+    if (const Node *present = find(full)) {
+        if (present->isDirectory)
+            throw RuntimeError(ErrorNumber::PathFileAccess);
+        if (present->error)
+            throw RuntimeError(*present->error);
+        if (replacing == platform::Replacing::Refused)
+            throw RuntimeError(ErrorNumber::FileAlreadyExists);
+    }
+    makeNode(full).content = content;
+    nextMoment();
 }
 
 } // namespace support

@@ -28,9 +28,14 @@ public:
     void addFile(const QString &path, const QByteArray &content = "x");
     void hide(const QString &path);
     void forbid(const QString &path, platform::ErrorNumber error);
+    /// Makes a second name for the file `path`, which then has two.
+    void addSecondName(const QString &path, const QString &secondName);
     void setShortName(const QString &path, const QString &shortName);
     /// Removes a file, or a directory with all that it holds.
     void remove(const QString &path);
+
+    /// What the file `path` holds; nothing where there is no such file.
+    std::optional<QByteArray> content(const QString &path) const;
 
     QStringList drives() override;
     QString currentDirectory() override;
@@ -42,6 +47,8 @@ public:
     QString firstLine(const QString &path) override;
     QString shortName(const QString &path) override;
     std::optional<platform::FileStamp> stamp(const QString &path) override;
+    std::optional<QString> existingFile(const QString &path) override;
+    void copyFile(const QString &source, const QString &destination, platform::Replacing replacing) override;
     // As on a host at its laziest: within a moment nothing that changes is seen.
     void beginMoment() override;
     void endMoment() override { --moments_; }
@@ -65,6 +72,7 @@ private:
         QString shortName;
         std::optional<platform::ErrorNumber> error;
         qint64 version = 0;
+        quint64 number = 0; ///< names of one file share it
     };
 
     void announce(const char *call) const;
@@ -80,6 +88,7 @@ private:
     QMap<QString, Node> seen_;  ///< what is seen within a moment
     int moments_ = 0;
     qint64 version_ = 0;
+    quint64 numbers_ = 0;
 };
 
 } // namespace support

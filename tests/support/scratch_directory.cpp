@@ -1,5 +1,6 @@
 #include "scratch_directory.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -76,6 +77,21 @@ QByteArray ScratchDirectory::read(const QByteArray &name) const
     std::ifstream file(path(name).toStdString(), std::ios::binary);
     const std::string content{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     return QByteArray::fromStdString(content);
+}
+
+bool ScratchDirectory::has(const QByteArray &name) const
+{
+    std::error_code ignored;
+    return std::filesystem::exists(std::filesystem::symlink_status(path(name).toStdString(), ignored));
+}
+
+QList<QByteArray> ScratchDirectory::names() const
+{
+    QList<QByteArray> result;
+    for (const auto &entry : std::filesystem::directory_iterator(path_.toStdString()))
+        result.append(QByteArray::fromStdString(entry.path().filename().string()));
+    std::sort(result.begin(), result.end());
+    return result;
 }
 
 ScopedVariable::ScopedVariable(const char *name, const QByteArray &value)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 
 namespace support {
 
@@ -25,6 +26,10 @@ public:
     void remove(const QByteArray &name) const;
 
     QByteArray read(const QByteArray &name) const;
+    /// Whether there is anything called `name`, a link that leads nowhere included.
+    bool has(const QByteArray &name) const;
+    /// The names of all that it holds, in order.
+    QList<QByteArray> names() const;
 
 private:
     QByteArray root_;

@@ -1,8 +1,9 @@
 #include "platform/linux/linux_file_system.h"
 
 #include "platform/letter_case.h"
-#include "platform/linux/file_descriptor.h"
+#include "platform/linux/file_copy.h"
 #include "platform/linux/host_names.h"
+#include "platform/linux/regular_file.h"
 #include "platform/linux/system_error.h"
 #include "platform/text_decoding.h"
 
@@ -14,7 +15,6 @@
 #include <memory>
 #include <new>
 
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -32,29 +32,23 @@ QByteArray processDirectory()
     return path && path.get()[0] == '/' ? QByteArray(path.get()) : QByteArray("/");
 }
 
-// Refuses what is no regular file before it is opened: opening a pipe would wait, opening a device may act on
-// it.
-void requireRegularFile(const QByteArray &hostPath)
-{
-    struct stat status = {};
-    if (::stat(hostPath.constData(), &status) != 0)
-        throw RuntimeError(errno == ENOENT ? ErrorNumber::FileNotFound : errorNumber(errno));
-    if (!S_ISREG(status.st_mode))
-        throw RuntimeError(ErrorNumber::PathFileAccess);
-}
-
-FileDescriptor openForReading(const QByteArray &hostPath)
-{
-    requireRegularFile(hostPath);
-    FileDescriptor descriptor(::open(hostPath.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
-    if (!descriptor.isValid())
-        throw RuntimeError(errno == ENOENT ? ErrorNumber::FileNotFound : errorNumber(errno));
-    return descriptor;
-}
-
 ErrorNumber missing(const PathLookup::File &file)
 {
     return file.directoryExists ? ErrorNumber::FileNotFound : ErrorNumber::PathNotFound;
+}
+
+// What a link leads to, so that writing there leaves the link; other names as they are. Raises PathFileAccess
+// for a link that leads nowhere.
+QByteArray behindLink(const QByteArray &hostPath)
+{
+    struct stat status = {};
+    if (::lstat(hostPath.constData(), &status) != 0 || !S_ISLNK(status.st_mode))
+        return hostPath;
+    const std::unique_ptr<char, decltype(&std::free)> path(::realpath(hostPath.constData(), nullptr),
+                                                           &std::free);
+    if (!path)
+        throw RuntimeError(ErrorNumber::PathFileAccess);
+    return path.get();
 }
 
 QByteArray readStart(const FileDescriptor &file, qsizetype most)
@@ -193,6 +187,29 @@ std::optional<FileStamp> LinuxFileSystem::stamp(const QString &path)
     } catch (const RuntimeError &) {
         return std::nullopt;
     }
+}
+
+std::optional<QString> LinuxFileSystem::existingFile(const QString &path)
+{
+    const QString absolute = current_.absolute(path);
+    const auto found = hostDocument(absolute);
+    struct stat status = {};
+    if (!found || ::stat(found->constData(), &status) != 0 || !S_ISREG(status.st_mode))
+        return std::nullopt;
+    const QByteArray written = behindLink(*found);
+    return written == *found ? drives_.toPanel(absolute.at(0), written) : drives_.toPanel(written);
+}
+
+void LinuxFileSystem::copyFile(const QString &source, const QString &destination, Replacing replacing)
+{
+    lookup_.nextMoment();
+    const QByteArray from = openable(source);
+    const auto to = hostDocument(destination);
+    if (!to)
+        throw RuntimeError(ErrorNumber::PathNotFound);
+    SystemCalls calls;
+    copyWholeFile(from, behindLink(*to), replacing, calls);
+    lookup_.nextMoment();
 }
 
 QString LinuxFileSystem::hostForm(const QString &directory)

@@ -26,6 +26,8 @@ public:
     QString firstLine(const QString &path) override;
     QString shortName(const QString &path) override;
     std::optional<FileStamp> stamp(const QString &path) override;
+    std::optional<QString> existingFile(const QString &path) override;
+    void copyFile(const QString &source, const QString &destination, Replacing replacing) override;
     void beginMoment() override { lookup_.beginMoment(); }
     void endMoment() override { lookup_.endMoment(); }
     void nextMoment() override { lookup_.nextMoment(); }

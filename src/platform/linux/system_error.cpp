@@ -18,10 +18,13 @@ ErrorNumber errorNumber(int systemError)
     case ENAMETOOLONG:
     case EILSEQ:
         return ErrorNumber::BadFileName;
+    case EEXIST:
+        return ErrorNumber::FileAlreadyExists;
     case EIO:
         return ErrorNumber::DeviceError;
     case ENOSPC:
     case EDQUOT:
+    case EFBIG:
         return ErrorNumber::DiskFull;
     case ENODEV:
     case ENXIO:

@@ -8,12 +8,14 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 
 #include <sys/stat.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using platform::Reading;
+using platform::Replacing;
 using platform::host::LinuxFileSystem;
 
 class LinuxFiles : public testing::Test
@@ -161,6 +163,52 @@ TEST_F(LinuxFiles, give_documents_their_true_path)
     EXPECT_EQ(files.hostDocument(at(u"new model.cfb"_s)), scratch.path("new model.cfb"));
     EXPECT_FALSE(files.hostDocument(at(u"nowhere\\x.cfb"_s)).has_value());
     EXPECT_EQ(files.hostDocument(u"Z:\\no such file.x"_s), QByteArray("/no such file.x"));
+}
+
+TEST_F(LinuxFiles, are_written_behind_links)
+{
+    scratch.makeDirectory("shared");
+    scratch.makeFile("shared/Model.cfb", "old");
+    scratch.makeFile("walk1.cfb", "new");
+    scratch.makeLink("walk2.cfb", "shared/Model.cfb");
+    scratch.makeLink("nowhere.cfb", "gone/model.cfb");
+    EXPECT_EQ(files.existingFile(at(u"WALK2.CFB"_s)), at(u"shared\\Model.cfb"_s));
+    EXPECT_EQ(files.existingFile(at(u"nowhere.cfb"_s)), std::nullopt);
+    files.copyFile(at(u"walk1.cfb"_s), at(u"WALK2.CFB"_s), Replacing::Agreed);
+    EXPECT_EQ(scratch.read("shared/Model.cfb"), "new");
+    EXPECT_TRUE(std::filesystem::is_symlink(scratch.path("walk2.cfb").toStdString()));
+    try {
+        files.copyFile(at(u"walk1.cfb"_s), at(u"nowhere.cfb"_s), Replacing::Agreed);
+        ADD_FAILURE() << "a link that leads nowhere was written";
+    } catch (const platform::RuntimeError &error) {
+        EXPECT_EQ(error.Number, 75);
+    }
+    EXPECT_TRUE(std::filesystem::is_symlink(scratch.path("nowhere.cfb").toStdString()));
+    EXPECT_EQ(scratch.names(), (QList<QByteArray>{"nowhere.cfb", "shared", "walk1.cfb", "walk2.cfb"}));
+}
+
+TEST_F(LinuxFiles, are_one_file_under_all_their_names)
+{
+    scratch.makeFile("walk1.cfb");
+    scratch.makeLink("link.cfb", "walk1.cfb");
+    std::filesystem::create_hard_link(scratch.path("walk1.cfb").toStdString(),
+                                      scratch.path("second.cfb").toStdString());
+    const auto walk1 = files.stamp(at(u"walk1.cfb"_s));
+    ASSERT_TRUE(walk1.has_value());
+    for (const QString &name : {u"link.cfb"_s, u"second.cfb"_s, u"WALK1.CFB"_s})
+        EXPECT_TRUE(walk1->isOfSameFile(files.stamp(at(name)).value())) << name.toStdString();
+}
+
+TEST_F(LinuxFiles, are_replaced_even_while_another_program_keeps_them_open)
+{
+    scratch.makeFile("walk1.cfb", "new");
+    scratch.makeFile("walk2.cfb", "old");
+    std::ifstream reader(scratch.path("walk2.cfb").toStdString());
+    files.copyFile(at(u"walk1.cfb"_s), at(u"walk2.cfb"_s), Replacing::Agreed);
+    EXPECT_EQ(scratch.read("walk2.cfb"), "new");
+    std::string seen;
+    reader >> seen;
+    EXPECT_EQ(seen, "old") << "the other program still reads what it has opened";
 }
 
 TEST_F(LinuxFiles, take_the_process_along)

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/file_system.h"
+
+#include <QByteArray>
+
+#include <sys/types.h>
+
+namespace platform::host {
+
+/// The system's calls that make a copy. Each does what the system's own does, errno included; tests let them
+/// fail.
+class SystemCalls
+{
+public:
+    virtual ~SystemCalls() = default;
+
+    virtual int openSource(const QByteArray &path);
+    /// Makes a new file; never opens one that is there.
+    virtual int create(const QByteArray &path);
+    virtual ssize_t read(int file, char *buffer, size_t size);
+    virtual ssize_t write(int file, const char *bytes, size_t size);
+    virtual int setMode(int file, mode_t mode);
+    virtual int flush(int file);
+    virtual int close(int file);
+    /// `mayReplace` says whether a file called `to` is replaced; otherwise its presence is EEXIST.
+    virtual int rename(const QByteArray &from, const QByteArray &to, bool mayReplace);
+};
+
+/// Copies the file `from` to `to`: it is written beside the destination under a hidden name and takes its
+/// place when it is complete, with the mode of the file that it replaces. Raises what FileSystem::copyFile
+/// raises.
+void copyWholeFile(const QByteArray &from, const QByteArray &to, Replacing replacing, SystemCalls &calls);
+
+} // namespace platform::host

@@ -1,0 +1,243 @@
+// A copy under failures of every step: the source stays untouched, the destination is the old file or the new
+// one and never anything between, and nothing is left beside them.
+
+#include "platform/linux/file_copy.h"
+#include "platform/runtime_error.h"
+#include "scratch_directory.h"
+
+#include <gmock/gmock.h>
+
+#include <cerrno>
+#include <optional>
+
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using platform::Replacing;
+using platform::host::copyWholeFile;
+using platform::host::SystemCalls;
+using testing::ElementsAre;
+
+namespace {
+
+/// The system's calls, one of which fails.
+class FailingCalls : public SystemCalls
+{
+public:
+    /// Of all calls in order, the one that fails; -1 for none.
+    int failing = -1;
+    /// What is done instead of that call; its errno.
+    int error = EIO;
+    bool dies = false; ///< the whole process ends there
+    int made = 0;
+
+    /// The most bytes that a write takes.
+    size_t mostWritten = 10'000;
+
+    int openSource(const QByteArray &path) override { return fails() ? -1 : SystemCalls::openSource(path); }
+    int create(const QByteArray &path) override { return fails() ? -1 : SystemCalls::create(path); }
+    ssize_t read(int file, char *buffer, size_t size) override
+    {
+        return fails() ? -1 : SystemCalls::read(file, buffer, size);
+    }
+    ssize_t write(int file, const char *bytes, size_t size) override
+    {
+        return fails() ? -1 : SystemCalls::write(file, bytes, std::min(size, mostWritten));
+    }
+    int flush(int file) override { return fails() ? -1 : SystemCalls::flush(file); }
+    int close(int file) override
+    {
+        const int closed = SystemCalls::close(file);
+        return fails() ? -1 : closed;
+    }
+    int rename(const QByteArray &from, const QByteArray &to, bool mayReplace) override
+    {
+        return fails() ? -1 : SystemCalls::rename(from, to, mayReplace);
+    }
+
+private:
+    bool fails()
+    {
+        if (made++ != failing)
+            return false;
+        if (dies)
+            ::_exit(0);
+        errno = error;
+        return true;
+    }
+};
+
+class FileCopy : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        scratch.makeFile("walk1.cfb", fresh);
+        scratch.makeFile("walk2.cfb", "old");
+    }
+
+    // The number of the error, 0 where there is none.
+    static qint16 copy(const QByteArray &from, const QByteArray &to, SystemCalls &calls,
+                       Replacing replacing = Replacing::Agreed)
+    {
+        try {
+            copyWholeFile(from, to, replacing, calls);
+        } catch (const platform::RuntimeError &error) {
+            return error.Number;
+        }
+        return 0;
+    }
+
+    qint16 copy(const QByteArray &to, SystemCalls &calls, Replacing replacing = Replacing::Agreed) const
+    {
+        return copy(scratch.path("walk1.cfb"), scratch.path(to), calls, replacing);
+    }
+
+    std::optional<QByteArray> content(const QByteArray &name) const
+    {
+        return scratch.has(name) ? std::optional(scratch.read(name)) : std::nullopt;
+    }
+
+    const QByteArray fresh = QByteArray("0123456789").repeated(10'000);
+    support::ScratchDirectory scratch{"models"};
+};
+
+// What is sent while the copy is made: open, create, two reads with eleven writes and the read that finds the
+// end, flush, close, rename. The source is closed last, when nothing can go wrong any more.
+constexpr int Steps = 19;
+
+} // namespace
+
+TEST_F(FileCopy, takes_these_steps)
+{
+    FailingCalls calls;
+    EXPECT_EQ(copy("walk2.cfb", calls), 0);
+    EXPECT_EQ(calls.made, Steps + 1);
+    EXPECT_EQ(content("walk2.cfb"), fresh);
+    EXPECT_THAT(scratch.names(), ElementsAre("walk1.cfb", "walk2.cfb"));
+}
+
+TEST_F(FileCopy, leaves_the_old_file_or_none_where_a_step_fails)
+{
+    const std::pair<int, qint16> errors[]{{EIO, 57},    {ENOSPC, 61}, {EDQUOT, 61},    {EACCES, 70},
+                                          {EROFS, 70},  {ESTALE, 76}, {EHOSTDOWN, 68}, {EFBIG, 61},
+                                          {ENODEV, 68}, {EMFILE, 75}};
+    for (const auto &[error, number] : errors) {
+        for (int step = 0; step < Steps; ++step) {
+            FailingCalls calls;
+            calls.failing = step;
+            calls.error = error;
+            EXPECT_EQ(copy("walk2.cfb", calls), number) << error << " in step " << step;
+            EXPECT_EQ(content("walk2.cfb"), "old") << error << " in step " << step;
+            calls.made = 0;
+            EXPECT_EQ(copy("walk3.cfb", calls, Replacing::Refused), number) << error << " in step " << step;
+            EXPECT_EQ(content("walk1.cfb"), fresh) << error << " in step " << step;
+            EXPECT_THAT(scratch.names(), ElementsAre("walk1.cfb", "walk2.cfb"))
+                << error << " in step " << step;
+        }
+    }
+}
+
+TEST_F(FileCopy, goes_on_after_an_interruption)
+{
+    for (int step = 2; step < 16; ++step) {
+        FailingCalls calls;
+        calls.failing = step;
+        calls.error = EINTR;
+        scratch.makeFile("walk2.cfb", "old");
+        EXPECT_EQ(copy("walk2.cfb", calls), 0) << "step " << step;
+        EXPECT_EQ(content("walk2.cfb"), fresh) << "step " << step;
+    }
+}
+
+TEST_F(FileCopy, leaves_no_half_a_file_where_the_program_is_killed)
+{
+    for (int step = 0; step <= Steps; ++step) {
+        scratch.makeFile("walk2.cfb", "old");
+        const pid_t child = ::fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            FailingCalls calls;
+            calls.failing = step;
+            calls.dies = true;
+            copy("walk2.cfb", calls);
+            ::_exit(0);
+        }
+        ::waitpid(child, nullptr, 0);
+        EXPECT_EQ(content("walk2.cfb"), step < Steps ? QByteArray("old") : fresh) << "step " << step;
+        EXPECT_EQ(content("walk1.cfb"), fresh) << "step " << step;
+    }
+    // What such a program leaves is hidden and no model.
+    for (const QByteArray &name : scratch.names()) {
+        if (name != "walk1.cfb" && name != "walk2.cfb") {
+            EXPECT_TRUE(name.startsWith(".kinovra-")) << name.toStdString();
+        }
+    }
+    FailingCalls calls;
+    EXPECT_EQ(copy("walk4.cfb", calls), 0) << "what was left is in nobody's way";
+}
+
+TEST_F(FileCopy, does_not_replace_what_has_come_meanwhile)
+{
+    class ComesMeanwhile : public SystemCalls
+    {
+    public:
+        explicit ComesMeanwhile(const support::ScratchDirectory &directory) : scratch(directory) {}
+        int flush(int file) override
+        {
+            scratch.makeFile("walk3.cfb", "from another program");
+            return SystemCalls::flush(file);
+        }
+        const support::ScratchDirectory &scratch;
+    } calls(scratch);
+    EXPECT_EQ(copy("walk3.cfb", calls, Replacing::Refused), 58);
+    EXPECT_EQ(content("walk3.cfb"), "from another program");
+    scratch.remove("walk3.cfb");
+    EXPECT_EQ(copy("walk3.cfb", calls, Replacing::Agreed), 58) << "there was nothing to agree about";
+    EXPECT_EQ(content("walk3.cfb"), "from another program");
+    EXPECT_THAT(scratch.names(), ElementsAre("walk1.cfb", "walk2.cfb", "walk3.cfb"));
+}
+
+TEST_F(FileCopy, keeps_the_mode_of_what_it_replaces)
+{
+    ::chmod(scratch.path("walk2.cfb").constData(), 0664);
+    ::chmod(scratch.path("walk1.cfb").constData(), 0400);
+    const mode_t before = ::umask(027);
+    SystemCalls calls;
+    EXPECT_EQ(copy("walk2.cfb", calls), 0);
+    EXPECT_EQ(copy("walk3.cfb", calls), 0);
+    ::umask(before);
+    struct stat status = {};
+    ::stat(scratch.path("walk2.cfb").constData(), &status);
+    EXPECT_EQ(status.st_mode & 0777U, 0664U);
+    ::stat(scratch.path("walk3.cfb").constData(), &status);
+    EXPECT_EQ(status.st_mode & 0777U, 0640U) << "as the user's new files are";
+}
+
+TEST_F(FileCopy, does_not_replace_what_its_owner_has_protected)
+{
+    ::chmod(scratch.path("walk2.cfb").constData(), 0444);
+    ::chmod(scratch.path().constData(), 0777);
+    scratch.makeDirectory("closed");
+    const support::WithoutPrivileges nobody;
+    SystemCalls calls;
+    EXPECT_EQ(copy("walk2.cfb", calls), 70);
+    EXPECT_EQ(content("walk2.cfb"), "old");
+    EXPECT_EQ(copy("closed/walk3.cfb", calls), 70);
+    EXPECT_THAT(scratch.names(), ElementsAre("closed", "walk1.cfb", "walk2.cfb"));
+}
+
+TEST_F(FileCopy, refuses_what_is_no_file_without_waiting)
+{
+    scratch.makePipe("pipe.cfb");
+    scratch.makeLink("device.cfb", "/dev/zero");
+    SystemCalls calls;
+    EXPECT_EQ(copy(scratch.path("pipe.cfb"), scratch.path("new.cfb"), calls), 75);
+    EXPECT_EQ(copy(scratch.path("device.cfb"), scratch.path("new.cfb"), calls), 75);
+    EXPECT_EQ(copy("pipe.cfb", calls), 75);
+    EXPECT_FALSE(scratch.has("new.cfb"));
+    struct stat status = {};
+    ASSERT_EQ(::lstat(scratch.path("pipe.cfb").constData(), &status), 0);
+    EXPECT_TRUE(S_ISFIFO(status.st_mode));
+}
