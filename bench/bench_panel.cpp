@@ -16,6 +16,11 @@ std::optional<QString> SilentDialogs::openFile(const platform::OpenFileRequest &
     return std::nullopt;
 }
 
+std::optional<QString> SilentDialogs::saveFile(const platform::SaveFileRequest &)
+{
+    return std::nullopt;
+}
+
 BenchPanel::BenchPanel(const QString &settings) : settings_(settings)
 {
     shell::connectRooms(panel_);

@@ -15,6 +15,7 @@ class SilentDialogs : public platform::Dialogs
 public:
     platform::Answer message(const platform::MessageBox &box) override;
     std::optional<QString> openFile(const platform::OpenFileRequest &request) override;
+    std::optional<QString> saveFile(const platform::SaveFileRequest &request) override;
 };
 
 /// A panel on the real host, with settings of its own.

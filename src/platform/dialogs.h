@@ -20,6 +20,7 @@ struct MessageBox
     Icon icon = Icon::None;
     Buttons buttons = Buttons::OKOnly;
     QString title = {};
+    bool noByDefault = false; ///< Enter answers No: a Yes would lose something
 
     bool operator==(const MessageBox &other) const = default;
 };
@@ -39,6 +40,18 @@ struct OpenFileRequest
     bool operator==(const OpenFileRequest &other) const = default;
 };
 
+/// A complete request for the name of a file to be written. The dialog itself never asks about a file that is
+/// there: that is the command's to do, which alone knows what it will write.
+struct SaveFileRequest
+{
+    QString initialDirectory = {};
+    QString fileName = {}; ///< proposed name
+    QString filter = {};   ///< as in OpenFileRequest
+    QString title = {};
+
+    bool operator==(const SaveFileRequest &other) const = default;
+};
+
 /// Boxes that wait for the user. A box closes all open menus first. When the program ends while a box is
 /// open, the box answers as if it had been cancelled.
 class Dialogs
@@ -50,6 +63,9 @@ public:
 
     /// The full path of the chosen file; nothing when the dialog was cancelled.
     virtual std::optional<QString> openFile(const OpenFileRequest &request) = 0;
+
+    /// The full path of the file to be written; nothing when the dialog was cancelled.
+    virtual std::optional<QString> saveFile(const SaveFileRequest &request) = 0;
 };
 
 } // namespace platform

@@ -16,6 +16,9 @@ public:
     /// The path language's form of a file that the user has chosen. The spelling of its directory is
     /// remembered.
     virtual QString panelForm(const QString &hostFile) = 0;
+
+    /// A pattern such as "*.cfb" for the desktop's dialogs, in a form that matches names in any case.
+    virtual QString anyCase(const QString &pattern) const = 0;
 };
 
 } // namespace platform

@@ -81,6 +81,13 @@ std::optional<QString> askForFile(Panel &panel, const platform::OpenFileRequest 
     return chosen;
 }
 
+std::optional<QString> askForNewFile(Panel &panel, const platform::SaveFileRequest &request)
+{
+    auto chosen = panel.platform.dialogs.saveFile(request);
+    goOn(panel);
+    return chosen;
+}
+
 void say(Panel &panel, const QString &text)
 {
     panel.frm.StatusBar1.Panel1 = text;

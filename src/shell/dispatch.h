@@ -28,6 +28,9 @@ void letPendingEventsRun(Panel &panel);
 /// is closed meanwhile.
 std::optional<QString> askForFile(Panel &panel, const platform::OpenFileRequest &request);
 
+/// Lets the user name a file to be written; nothing when the dialog was cancelled. Raises as askForFile does.
+std::optional<QString> askForNewFile(Panel &panel, const platform::SaveFileRequest &request);
+
 /// Shows a message box and gives its answer. Raises Unloaded when the main window is closed meanwhile.
 platform::Answer MsgBox(Panel &panel, const platform::MessageBox &box);
 

@@ -80,21 +80,6 @@ QString shownLines(const QString &text)
     return lines.join(u'\n');
 }
 
-// "Text|*.txt|All|*.*" as the list of filters that the desktop's dialog wants; without "|" it is text and
-// pattern.
-QStringList nameFilters(const QString &filter)
-{
-    const QStringList parts = filter.split(u'|');
-    if (parts.size() < 2)
-        return {QString(filter).replace(u';', u' ')};
-    QStringList result;
-    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
-        const QString text = QString(parts[i]).section(u" ("_s, 0, 0).replace(u"&&"_s, u"&"_s);
-        result.append(text + u" ("_s + QString(parts[i + 1]).replace(u';', u' ') + u')');
-    }
-    return result;
-}
-
 bool isPattern(const QString &fileName)
 {
     return fileName.contains(u'*') || fileName.contains(u'?');
@@ -121,6 +106,8 @@ Answer MessageBoxes::message(const platform::MessageBox &box)
                        box.title.isEmpty() ? QString(QLatin1String(shell::ApplicationTitle)) : box.title,
                        shownLines(box.text), standardButtons(box.buttons), owner());
     window.setTextFormat(Qt::PlainText);
+    if (box.noByDefault)
+        window.setDefaultButton(QMessageBox::No);
     return answerOf(window.exec(), box.buttons);
 }
 
@@ -129,11 +116,43 @@ std::optional<QString> MessageBoxes::openFile(const platform::OpenFileRequest &r
     closeMenus();
     QFileDialog dialog(owner(), request.title, paths_.hostForm(request.initialDirectory));
     dialog.setFileMode(request.mustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
-    const QStringList filters = nameFilters(request.filter);
-    dialog.setNameFilters(filters);
-    dialog.selectNameFilter(filters.value(request.filterIndex - 1));
+    setFilters(dialog, request.filter, request.filterIndex);
     if (!request.fileName.isEmpty() && !isPattern(request.fileName))
         dialog.selectFile(request.fileName);
+    return chosenIn(dialog);
+}
+
+std::optional<QString> MessageBoxes::saveFile(const platform::SaveFileRequest &request)
+{
+    closeMenus();
+    QFileDialog dialog(owner(), request.title, paths_.hostForm(request.initialDirectory));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    setFilters(dialog, request.filter, 1);
+    if (!request.fileName.isEmpty())
+        dialog.selectFile(request.fileName);
+    return chosenIn(dialog);
+}
+
+// "Text|*.txt|All|*.*" as the list of filters that the desktop's dialog wants; without "|" it is text and
+// pattern. The pattern in the last parentheses, which it does not show, is for the dialog alone.
+void MessageBoxes::setFilters(QFileDialog &dialog, const QString &filter, int index) const
+{
+    QStringList parts = filter.split(u'|');
+    if (parts.size() < 2)
+        parts = {filter, filter};
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        const QString text = QString(parts[i]).replace(u"&&"_s, u"&"_s);
+        filters.append(text + u" ("_s + paths_.anyCase(parts[i + 1]).replace(u';', u' ') + u')');
+    }
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    dialog.setNameFilters(filters);
+    dialog.selectNameFilter(filters.value(index - 1));
+}
+
+std::optional<QString> MessageBoxes::chosenIn(QFileDialog &dialog)
+{
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     return paths_.panelForm(dialog.selectedFiles().constFirst());

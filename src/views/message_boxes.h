@@ -3,7 +3,7 @@
 #include "platform/dialogs.h"
 #include "platform/host_paths.h"
 
-class QWidget;
+class QFileDialog;
 
 namespace views {
 
@@ -15,8 +15,12 @@ public:
 
     platform::Answer message(const platform::MessageBox &box) override;
     std::optional<QString> openFile(const platform::OpenFileRequest &request) override;
+    std::optional<QString> saveFile(const platform::SaveFileRequest &request) override;
 
 private:
+    void setFilters(QFileDialog &dialog, const QString &filter, int index) const;
+    std::optional<QString> chosenIn(QFileDialog &dialog);
+
     platform::HostPaths &paths_;
 };
 

@@ -94,6 +94,7 @@ void PanelFixture::forget()
 {
     machine.dialogs.messages.clear();
     machine.dialogs.requests.clear();
+    machine.dialogs.saveRequests.clear();
     machine.programs.started.clear();
     machine.settings.written.clear();
     machine.clock.pauses.clear();

@@ -42,7 +42,7 @@ protected:
     void click(const controls::MenuItem &item);
     void openMenu(const controls::MenuItem &menu);
 
-    /// Forgets messages, starts, settings written and pauses.
+    /// Forgets messages, dialogs, starts, settings written and pauses.
     void forget();
 
     /// The texts of the messages since the last forget().

@@ -77,6 +77,19 @@ platform::Answer RecordingDialogs::message(const platform::MessageBox &box)
 std::optional<QString> RecordingDialogs::openFile(const platform::OpenFileRequest &request)
 {
     requests.push_back(request);
+    return nextChosen();
+}
+
+std::optional<QString> RecordingDialogs::saveFile(const platform::SaveFileRequest &request)
+{
+    saveRequests.push_back(request);
+    return nextChosen();
+}
+
+std::optional<QString> RecordingDialogs::nextChosen()
+{
+    if (whileChoosing)
+        whileChoosing();
     if (chosenFiles.empty())
         return std::nullopt;
     std::optional<QString> chosen;

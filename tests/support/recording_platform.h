@@ -73,12 +73,18 @@ class RecordingDialogs : public platform::Dialogs
 public:
     platform::Answer message(const platform::MessageBox &box) override;
     std::optional<QString> openFile(const platform::OpenFileRequest &request) override;
+    std::optional<QString> saveFile(const platform::SaveFileRequest &request) override;
 
     std::vector<platform::MessageBox> messages;
     std::vector<platform::OpenFileRequest> requests;
+    std::vector<platform::SaveFileRequest> saveRequests;
     std::deque<platform::Answer> answers;
-    std::deque<std::optional<QString>> chosenFiles;
+    std::deque<std::optional<QString>> chosenFiles; ///< for dialogs of both kinds, in their order
+    std::function<void()> whileChoosing;
     std::function<void(const platform::MessageBox &)> whileShown;
+
+private:
+    std::optional<QString> nextChosen();
 };
 
 /// A clock that stands still but in pauses. What the test has put off runs during them.

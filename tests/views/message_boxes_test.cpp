@@ -2,6 +2,7 @@
 #include "views/message_boxes.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMainWindow>
@@ -28,6 +29,10 @@ public:
     QString panelForm(const QString &hostFile) override
     {
         return u"Z:"_s + QString(hostFile).replace(u'/', u'\\');
+    }
+    QString anyCase(const QString &pattern) const override
+    {
+        return QString(pattern).replace(u'e', u"[eE]"_s);
     }
 };
 
@@ -130,6 +135,20 @@ TEST_F(MessageBoxViews, that_are_closed_answer_what_changes_nothing)
     }
 }
 
+TEST_F(MessageBoxViews, answer_no_by_default_where_yes_would_lose_something)
+{
+    whenShown<QMessageBox>([](QMessageBox &window) {
+        EXPECT_EQ(window.defaultButton(), window.button(QMessageBox::No));
+        window.defaultButton()->click();
+    });
+    EXPECT_EQ(boxes.message({.text = u"?"_s, .buttons = Buttons::YesNo, .noByDefault = true}), platform::No);
+    whenShown<QMessageBox>([](QMessageBox &window) {
+        EXPECT_NE(window.defaultButton(), window.button(QMessageBox::No));
+        window.accept();
+    });
+    boxes.message({.text = u"?"_s, .buttons = Buttons::YesNo});
+}
+
 TEST_F(MessageBoxViews, show_text_as_text)
 {
     whenShown<QMessageBox>([](QMessageBox &window) {
@@ -150,6 +169,15 @@ protected:
         EXPECT_TRUE(file.open(QFile::WriteOnly));
     }
 
+    static QStringList shownFilters(const QFileDialog &dialog)
+    {
+        const auto *combo = dialog.findChild<QComboBox *>(u"fileTypeCombo"_s);
+        QStringList shown;
+        for (int i = 0; i < combo->count(); ++i)
+            shown.append(combo->itemText(i).trimmed());
+        return shown;
+    }
+
     QString panelDirectory() const { return u"Z:"_s + directory.path().replace(u'/', u'\\'); }
 
     QTemporaryDir directory;
@@ -160,7 +188,8 @@ TEST_F(FileDialogViews, ask_for_a_file)
     whenShown<QFileDialog>([this](QFileDialog &dialog) {
         EXPECT_EQ(dialog.windowTitle(), u"Select a program to view its help."_s);
         EXPECT_EQ(dialog.directory().path(), directory.path());
-        EXPECT_EQ(dialog.nameFilters(), QStringList{u"*.exe"_s});
+        EXPECT_EQ(dialog.nameFilters(), QStringList{u"*.exe (*.[eE]x[eE])"_s});
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
         EXPECT_EQ(dialog.fileMode(), QFileDialog::ExistingFile);
         EXPECT_EQ(dialog.findChild<QLineEdit *>()->text(), QString());
         dialog.findChild<QLineEdit *>()->setText(u"noise.exe"_s);
@@ -184,12 +213,47 @@ TEST_F(FileDialogViews, give_nothing_when_they_are_cancelled)
 TEST_F(FileDialogViews, know_classic_filters)
 {
     whenShown<QFileDialog>([](QFileDialog &dialog) {
-        EXPECT_EQ(dialog.nameFilters(),
-                  (QStringList{u"Plotter files (*.plt)"_s, u"AVI & MPEG files (*.avi *.mpg)"_s}));
-        EXPECT_EQ(dialog.selectedNameFilter(), u"AVI & MPEG files (*.avi *.mpg)"_s);
+        EXPECT_EQ(dialog.nameFilters(), (QStringList{u"Plotter files (*.plt) (*.plt)"_s,
+                                                     u"AVI & MPEG files (*.avi;*.mpg) (*.avi *.mpg)"_s}));
+        EXPECT_EQ(shownFilters(dialog),
+                  (QStringList{u"Plotter files (*.plt)"_s, u"AVI & MPEG files (*.avi;*.mpg)"_s}));
+        EXPECT_EQ(dialog.findChild<QComboBox *>(u"fileTypeCombo"_s)->currentIndex(), 1);
         dialog.reject();
     });
     boxes.openFile({.initialDirectory = panelDirectory(),
                     .filter = u"Plotter files (*.plt)|*.plt|AVI && MPEG files (*.avi;*.mpg)|*.avi;*.mpg"_s,
                     .filterIndex = 2});
+}
+
+TEST_F(FileDialogViews, ask_for_the_name_of_a_file_to_be_written)
+{
+    whenShown<QFileDialog>([this](QFileDialog &dialog) {
+        EXPECT_EQ(dialog.windowTitle(), u"Save as"_s);
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
+        EXPECT_EQ(dialog.directory().path(), directory.path());
+        EXPECT_EQ(shownFilters(dialog), QStringList{u"*.exe"_s});
+        EXPECT_EQ(dialog.findChild<QLineEdit *>()->text(), QString());
+        dialog.findChild<QLineEdit *>()->setText(u"walk 3"_s);
+        QMetaObject::invokeMethod(&dialog, "accept");
+    });
+    EXPECT_EQ(
+        boxes.saveFile({.initialDirectory = panelDirectory(), .filter = u"*.exe"_s, .title = u"Save as"_s}),
+        panelDirectory() + u"\\walk 3"_s);
+    whenShown<QFileDialog>([](QFileDialog &dialog) {
+        EXPECT_EQ(dialog.findChild<QLineEdit *>()->text(), u"walk4.exe"_s);
+        dialog.reject();
+    });
+    EXPECT_EQ(boxes.saveFile({.initialDirectory = panelDirectory(), .fileName = u"walk4.exe"_s}),
+              std::nullopt);
+}
+
+// The command asks, which alone knows what it will write.
+TEST_F(FileDialogViews, do_not_ask_about_a_file_that_is_there)
+{
+    whenShown<QFileDialog>([](QFileDialog &dialog) {
+        dialog.findChild<QLineEdit *>()->setText(u"noise.exe"_s);
+        QMetaObject::invokeMethod(&dialog, "accept");
+    });
+    EXPECT_EQ(boxes.saveFile({.initialDirectory = panelDirectory(), .filter = u"*.exe"_s}),
+              panelDirectory() + u"\\noise.exe"_s);
 }

@@ -228,6 +228,17 @@ QString LinuxFileSystem::panelForm(const QString &hostFile)
     return joinPath(adopt(path.left(std::max<qsizetype>(slash, 1))), fromHostName(path.mid(slash + 1)));
 }
 
+// "*.cfb" becomes "*.[cC][fF][bB]".
+QString LinuxFileSystem::anyCase(const QString &pattern) const
+{
+    QString result;
+    for (QChar c : pattern) {
+        const QChar both[]{QChar(lowerCase(c.unicode())), QChar(upperCase(c.unicode()))};
+        result += both[0] == both[1] ? QString(c) : u'[' + QString(both, 2) + u']';
+    }
+    return result;
+}
+
 QString LinuxFileSystem::adopt(const QByteArray &hostDirectory)
 {
     QString path = drives_.toPanel(hostDirectory);

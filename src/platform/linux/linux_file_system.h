@@ -34,6 +34,7 @@ public:
 
     QString hostForm(const QString &directory) override;
     QString panelForm(const QString &hostFile) override;
+    QString anyCase(const QString &pattern) const override;
 
     /// The path of a directory of the host, whose spelling is remembered: the panel is going to use it.
     QString adopt(const QByteArray &hostDirectory);

@@ -211,6 +211,12 @@ TEST_F(LinuxFiles, are_replaced_even_while_another_program_keeps_them_open)
     EXPECT_EQ(seen, "old") << "the other program still reads what it has opened";
 }
 
+TEST_F(LinuxFiles, are_offered_in_any_case)
+{
+    EXPECT_EQ(files.anyCase(u"*.cfb"_s), u"*.[cC][fF][bB]"_s);
+    EXPECT_EQ(files.anyCase(u"*.1T;*.*"_s), u"*.1[tT];*.*"_s);
+}
+
 TEST_F(LinuxFiles, take_the_process_along)
 {
     scratch.makeDirectory("sub");
