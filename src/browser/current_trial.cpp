@@ -130,6 +130,12 @@ bool chooseOnlyModel(Panel &panel)
     return true;
 }
 
+void chooseTrialOf(Panel &panel, const QString &fileName)
+{
+    panel.kinovra.CurrentTrial = fileName.section(u'.', 0, 0);
+    panel.frm.lblTrial.Caption = UCase(panel.kinovra.CurrentTrial);
+}
+
 bool TestTrial(Panel &panel)
 {
     auto [kinovra, frm, platform] = panel.parts();

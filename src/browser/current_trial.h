@@ -17,6 +17,10 @@ void filModels_Click(Panel &panel);
 /// name.
 bool chooseOnlyModel(Panel &panel);
 
+/// Makes the current trial what stands before the first dot of `fileName`: walk.left.dg is WALK here, while a
+/// click on it makes it WALK.LEFT; that is meant. Neither extension nor title change.
+void chooseTrialOf(Panel &panel, const QString &fileName);
+
 /// Whether there is no current trial. Then it says so and shows the lists in which one is chosen; callers
 /// stop.
 bool TestTrial(Panel &panel);

@@ -18,9 +18,20 @@ TrialFiles::TrialFiles(Panel &panel) : panel_(panel), length_(panel.kinovra.Curr
 
 bool TrialFiles::has(const char *extension)
 {
+    return test(extension) == 0;
+}
+
+bool TrialFiles::hasByAnswer(const char *extension)
+{
+    panel_.kinovra.Answer = test(extension);
+    return panel_.kinovra.Answer == 0;
+}
+
+qint16 TrialFiles::test(const char *extension)
+{
     name_.truncate(length_);
     name_ += QLatin1String(extension);
-    return TestFile(panel_, panel_.kinovra.DataDir, name_, Silent) == 0;
+    return TestFile(panel_, panel_.kinovra.DataDir, name_, Silent);
 }
 
 bool TrialFiles::hasEither(const char *extension, const char *other)

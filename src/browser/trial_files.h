@@ -15,10 +15,15 @@ public:
     /// Whether the trial's file with this extension, dot included, can be opened.
     bool has(const char *extension);
 
+    /// The same; the test's result stays in `Answer`.
+    bool hasByAnswer(const char *extension);
+
     /// Whether one of two can. Both are tested, whatever the first says.
     bool hasEither(const char *extension, const char *other);
 
 private:
+    qint16 test(const char *extension);
+
     Panel &panel_;
     QString name_; ///< the trial's name, with room for an extension
     qsizetype length_;

@@ -2,6 +2,7 @@
 
 #include "browser/test_file.h"
 #include "launcher/companions.h"
+#include "launcher/directory_commands.h"
 #include "launcher/program_runner.h"
 #include "launcher/progress_chart.h"
 #include "launcher/starting.h"
@@ -64,7 +65,7 @@ void mnuProg_Click(Panel &panel, int index)
     QString switches = QLatin1String(row.switches);
     if (frm.mnuPause.Checked)
         switches += u"/D "_s;
-    frm.ProgPath = kinovra.ProgDir + u'\\' + kinovra.ProgName + u".exe"_s;
+    frm.ProgPath = packageProgram(panel, kinovra.ProgName);
     frm.Comm = kinovra.ListingSwitch + switches + CommandText::document(kinovra.CurrentTrial);
     kinovra.Answer = RunProgram(panel, frm.ProgPath, frm.Comm, 1);
 }
@@ -108,6 +109,7 @@ void connect(Panel &panel)
     frm.mnuPrompt.Click = [&panel] { mnuPrompt_Click(panel); };
     frm.mnuReset.Click = [&panel] { mnuReset_Click(panel); };
     connectCompanions(panel);
+    connectDirectoryCommands(panel);
     panel.platform.programs.ended = [&panel](double value, const platform::Ending &ending) {
         programEnded(panel, value, ending);
     };

@@ -48,6 +48,11 @@ bool listingIsNew(Panel &panel, const RunningProgram &program)
 
 } // namespace
 
+QString packageProgram(const Panel &panel, const QString &name)
+{
+    return panel.kinovra.ProgDir + u'\\' + name + u".exe"_s;
+}
+
 double openWithSystem(Panel &panel, const QString &file, const CommandText &parameters,
                       const QString &directory, platform::Show show)
 {
@@ -78,6 +83,13 @@ double startDirectly(Panel &panel, const QString &program, const CommandText &pa
                          .directory = panel.kinovra.DataDir,
                          .show = show,
                          .owner = 0});
+}
+
+void showAndStart(Panel &panel, const QString &program, const CommandText &parameters)
+{
+    panel.frm.lblCommand.Caption = program + parameters.text();
+    panel.frm.lblCommand.Visible = true;
+    panel.kinovra.TaskId = startDirectly(panel, program, parameters, platform::Show::Shown);
 }
 
 void watchListing(Panel &panel, double value, const QString &listing,

@@ -7,6 +7,9 @@ namespace launcher {
 using platform::CommandText;
 using shell::Panel;
 
+/// The full path of the package's program `name`.
+QString packageProgram(const Panel &panel, const QString &name);
+
 /// Asks the operating system to "open" `file` with `parameters` in `directory`, the main window being the
 /// owner. The result is more than 32 on success. A failure is told in the status bar and nowhere else.
 double openWithSystem(Panel &panel, const QString &file, const CommandText &parameters,
@@ -26,6 +29,10 @@ constexpr bool isStarted(double value)
 /// the data directory. The result is a task number, 0 on failure, which the status bar tells.
 double startDirectly(Panel &panel, const QString &program, const CommandText &parameters,
                      platform::Show show);
+
+/// The same at the window's current size and position, after the whole command was shown in `lblCommand`; the
+/// task number stays in `TaskId`.
+void showAndStart(Panel &panel, const QString &program, const CommandText &parameters);
 
 /// Remembers that the program started as `value` may write `listing`, so that its end can be told.
 void watchListing(Panel &panel, double value, const QString &listing,

@@ -20,7 +20,8 @@ void PrintTo(const Start &start, std::ostream *out)
 void PrintTo(const MessageBox &box, std::ostream *out)
 {
     *out << "text=\"" << box.text.toStdString() << "\" icon=" << static_cast<int>(box.icon)
-         << " buttons=" << static_cast<int>(box.buttons) << " title=\"" << box.title.toStdString() << '"';
+         << " buttons=" << static_cast<int>(box.buttons) << " title=\"" << box.title.toStdString()
+         << "\" noByDefault=" << box.noByDefault;
 }
 
 void PrintTo(const OpenFileRequest &request, std::ostream *out)
@@ -29,6 +30,13 @@ void PrintTo(const OpenFileRequest &request, std::ostream *out)
          << request.fileName.toStdString() << "\" filter=\"" << request.filter.toStdString()
          << "\" index=" << request.filterIndex << " title=\"" << request.title.toStdString()
          << "\" mustExist=" << request.mustExist << " hideReadOnly=" << request.hideReadOnly;
+}
+
+void PrintTo(const SaveFileRequest &request, std::ostream *out)
+{
+    *out << "directory=\"" << request.initialDirectory.toStdString() << "\" name=\""
+         << request.fileName.toStdString() << "\" filter=\"" << request.filter.toStdString() << "\" title=\""
+         << request.title.toStdString() << '"';
 }
 
 } // namespace platform
