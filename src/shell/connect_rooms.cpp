@@ -2,7 +2,7 @@
 
 #include "averaging/averaging_menu.h"
 #include "browser/directories.h"
-#include "data/models.h"
+#include "data/connect_data.h"
 #include "graphs/graph_types.h"
 #include "help/about_window.h"
 #include "launcher/programs_menu.h"

@@ -317,7 +317,6 @@ TEST_F(MenuCommands, are_behind_every_item_that_is_not_still_to_come)
                                     u"mnuDatafile 0 1 2 3 4"_s,
                                     u"mnuArielType 0 1 2 3 4 5 6 7 8 9"_s,
                                     u"mnuConvert 0 1 2 3 4 5 6"_s,
-                                    u"mnuModel 0 1 2 3 5"_s,
                                     u"mnuNewModel"_s,
                                     u"mnuOptions"_s,
                                     u"mnuAverage 0 1 2 3 4 5"_s,

@@ -1,0 +1,28 @@
+#include "data/connect_data.h"
+
+#include "data/editors.h"
+#include "data/models.h"
+
+namespace data {
+
+namespace {
+
+template <typename Items>
+void connectItems(Panel &panel, Items &items, void (*click)(Panel &, int))
+{
+    for (int i = 0; i < static_cast<int>(items.size()); ++i)
+        items[static_cast<size_t>(i)].Click = [&panel, click, i] { click(panel, i); };
+}
+
+} // namespace
+
+void connect(Panel &panel)
+{
+    auto &frm = panel.frm;
+    connectItems(panel, frm.mnuModel, mnuModel_Click);
+    frm.mnuModels.Opening = [&panel] { mnuModels_Click(panel); };
+    frm.cmdEditor.Click = [&panel] { cmdEditor_Click(panel); };
+    frm.cmdEditGra.Click = [&panel] { cmdEditGra_Click(panel); };
+}
+
+} // namespace data
