@@ -4,6 +4,7 @@
 #include "data/digitized_data.h"
 #include "data/editors.h"
 #include "data/models.h"
+#include "data/new_model.h"
 
 namespace data {
 
@@ -30,6 +31,7 @@ void connect(Panel &panel)
     frm.mnuAriel.Opening = [&panel] { mnuAriel_Click(panel); };
     frm.mnuAriel.AsksOnOpening = [&panel] { return mnuAriel_asks(panel); };
     frm.mnuModels.Opening = [&panel] { mnuModels_Click(panel); };
+    frm.mnuNewModel.Click = [&panel] { mnuNewModel_Click(panel); };
     frm.cmdEditor.Click = [&panel] { cmdEditor_Click(panel); };
     frm.cmdEditGra.Click = [&panel] { cmdEditGra_Click(panel); };
 }

@@ -28,10 +28,13 @@ constexpr ErrorNumber Failures[]{
 
 constexpr const char *Directories[]{"C:\\DATA",  "C:\\DATA\\SUB", "C:\\One Model",
                                     "C:\\EMPTY", "D:\\",          "D:\\stick"};
-constexpr const char *FileNames[]{"walk1.dg",     "walk1.cn",  "walk1.cfb",   "walk1.km", "walk1.ks",
-                                  "walk1.fo",     "walk1.rf",  "average.sss", "run.2.dg", "run.2.cfb",
-                                  "Kinemati.out", "walk1.plt", "walk1.acd",   "kick.1t",  "x.dr",
-                                  "x.sim",        "noise.out", "Interact.out"};
+constexpr const char *ChosenFiles[]{"C:\\KINOVRA\\noise.exe", "C:\\DATA\\walk1.cfb", "C:\\DATA\\run.2.cfb",
+                                    "D:\\stick\\gone.cfb",    "C:\\EMPTY\\WALK1",    "walk.left.old"};
+constexpr const char *FileNames[]{"walk1.dg",     "walk1.cn",  "walk1.cfb",    "walk1.km", "walk1.ks",
+                                  "walk1.fo",     "walk1.rf",  "average.sss",  "run.2.dg", "run.2.cfb",
+                                  "Kinemati.out", "walk1.plt", "walk1.acd",    "kick.1t",  "x.dr",
+                                  "x.sim",        "noise.out", "Interact.out", "kick.cf",  "kick.3d",
+                                  "walk1.ren",    "walk1.cda", "walk1.rf2"};
 
 /// The state that commands share, by the name of each variable.
 using State = QMap<QString, QString>;
@@ -214,8 +217,8 @@ protected:
         failing = oneIn(2);
         machine.programs.failure = oneIn(3) ? u"it was not found"_s : QString();
         machine.dialogs.chosenFiles.clear();
-        if (oneIn(2))
-            machine.dialogs.chosenFiles = {u"C:\\KINOVRA\\noise.exe"_s};
+        while (!oneIn(3))
+            machine.dialogs.chosenFiles.push_back(QLatin1String(ChosenFiles[pick(std::size(ChosenFiles))]));
         // The package comes and goes as well.
         if (oneIn(4))
             machine.files.remove(u"C:\\KINOVRA\\kinemati.exe"_s);
@@ -267,6 +270,20 @@ protected:
             {R"(Error opening file: "C:\KINOVRA\KINEMATI.EXE")",
              {u"ProgName"_s, u"ProgPath"_s, u"Comm"_s, u"Answer"_s}},
             {"No models (.CFB files) in this directory.", {u"Answer"_s}},
+            {"No datafiles in this directory.", {}},
+            {"Not yet implemented!", {}},
+            {"Select a trial from the Data or Model menus first.", {}},
+            {"Select an APAS file (.1T/.3D) from Data menu first.", {u"Answer"_s}},
+            {"The Common File '", {u"Answer"_s}},
+            {"Do you want to rewrite the model file with information", {u"Answer"_s}},
+            {"The model C:\\DATA\\", {u"Answer"_s}},
+            {"Cannot copy an open file.", {}},
+            {"Error 61.  You must specify a complete destination file name.", {}},
+            {R"(Error opening file: "C:\KINOVRA\REFILA.EXE")",
+             {u"ProgName"_s, u"ProgPath"_s, u"Comm"_s, u"TaskId"_s}},
+            {R"(Error opening file: "C:\KINOVRA\SKELVO.EXE")",
+             {u"ProgName"_s, u"ProgPath"_s, u"SelectedFile"_s, u"Answer"_s}},
+            {R"(Error opening file: "C:\DATA\)", {u"Answer"_s, u"TaskId"_s}},
         };
         const auto &messages = machine.dialogs.messages;
         if (messages.size() != 1 || inPause)
@@ -276,6 +293,7 @@ protected:
             if (!refused || !messages[0].text.startsWith(QLatin1String(refusal.message)))
                 continue;
             ++refusalsChecked;
+            checked.insert(QLatin1String(refusal.message));
             const State after = state();
             for (auto it = before.begin(); it != before.end(); ++it) {
                 if (!refusal.mayChange.contains(it.key())) {
@@ -309,6 +327,7 @@ protected:
     bool inPause = false;
     platform::Answer lastAnswer = platform::OK;
     int refusalsChecked = 0;
+    QSet<QString> checked; ///< the refusals that have come up
 };
 
 TEST_F(RandomEvents, never_break_the_panel)
@@ -327,5 +346,6 @@ TEST_F(RandomEvents, never_break_the_panel)
         forget();
     }
     EXPECT_GT(refusalsChecked, 1000);
+    EXPECT_GT(checked.size(), 20);
     EXPECT_EQ(machine.settings.readKeys.size(), 6) << "settings are read at the start only";
 }
