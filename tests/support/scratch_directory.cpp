@@ -85,10 +85,10 @@ bool ScratchDirectory::has(const QByteArray &name) const
     return std::filesystem::exists(std::filesystem::symlink_status(path(name).toStdString(), ignored));
 }
 
-QList<QByteArray> ScratchDirectory::names() const
+QList<QByteArray> ScratchDirectory::names(const QByteArray &directory) const
 {
     QList<QByteArray> result;
-    for (const auto &entry : std::filesystem::directory_iterator(path_.toStdString()))
+    for (const auto &entry : std::filesystem::directory_iterator(path(directory).toStdString()))
         result.append(QByteArray::fromStdString(entry.path().filename().string()));
     std::sort(result.begin(), result.end());
     return result;

@@ -28,8 +28,8 @@ public:
     QByteArray read(const QByteArray &name) const;
     /// Whether there is anything called `name`, a link that leads nowhere included.
     bool has(const QByteArray &name) const;
-    /// The names of all that it holds, in order.
-    QList<QByteArray> names() const;
+    /// The names of all that it holds, or a directory in it, in order.
+    QList<QByteArray> names(const QByteArray &directory = ".") const;
 
 private:
     QByteArray root_;

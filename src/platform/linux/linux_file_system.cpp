@@ -1,7 +1,6 @@
 #include "platform/linux/linux_file_system.h"
 
 #include "platform/letter_case.h"
-#include "platform/linux/file_copy.h"
 #include "platform/linux/host_names.h"
 #include "platform/linux/regular_file.h"
 #include "platform/linux/system_error.h"
@@ -80,7 +79,8 @@ QByteArrayView withoutHalfCharacter(QByteArrayView bytes)
 
 } // namespace
 
-LinuxFileSystem::LinuxFileSystem(const QByteArray &winePrefix) : drives_(winePrefix), lookup_(drives_)
+LinuxFileSystem::LinuxFileSystem(const QByteArray &winePrefix, std::unique_ptr<SystemCalls> copying)
+    : drives_(winePrefix), lookup_(drives_), copying_(std::move(copying))
 {
     const QString start = adopt(processDirectory());
     current_.setDrive(start.at(0));
@@ -207,8 +207,7 @@ void LinuxFileSystem::copyFile(const QString &source, const QString &destination
     const auto to = hostDocument(destination);
     if (!to)
         throw RuntimeError(ErrorNumber::PathNotFound);
-    SystemCalls calls;
-    copyWholeFile(from, behindLink(*to), replacing, calls);
+    copyWholeFile(from, behindLink(*to), replacing, *copying_);
     lookup_.nextMoment();
 }
 

@@ -3,6 +3,7 @@
 #include "platform/file_system.h"
 #include "platform/host_paths.h"
 #include "platform/linux/drive_map.h"
+#include "platform/linux/file_copy.h"
 #include "platform/linux/path_lookup.h"
 #include "platform/path_language.h"
 
@@ -12,8 +13,9 @@ namespace platform::host {
 class LinuxFileSystem : public FileSystem, public HostPaths
 {
 public:
-    /// `winePrefix` is the Wine prefix's directory, empty for none.
-    explicit LinuxFileSystem(const QByteArray &winePrefix);
+    /// `winePrefix` is the Wine prefix's directory, empty for none; `copying` makes the copies.
+    explicit LinuxFileSystem(const QByteArray &winePrefix,
+                             std::unique_ptr<SystemCalls> copying = std::make_unique<SystemCalls>());
     LinuxFileSystem(const LinuxFileSystem &) = delete;
     LinuxFileSystem &operator=(const LinuxFileSystem &) = delete;
 
@@ -55,6 +57,7 @@ private:
     DriveMap drives_;
     PathLookup lookup_;
     CurrentDirectories current_;
+    std::unique_ptr<SystemCalls> copying_;
 };
 
 } // namespace platform::host

@@ -1,7 +1,7 @@
 // A copy under failures of every step: the source stays untouched, the destination is the old file or the new
 // one and never anything between, and nothing is left beside them.
 
-#include "platform/linux/file_copy.h"
+#include "failing_calls.h"
 #include "platform/runtime_error.h"
 #include "scratch_directory.h"
 
@@ -17,56 +17,10 @@
 using platform::Replacing;
 using platform::host::copyWholeFile;
 using platform::host::SystemCalls;
+using support::FailingCalls;
 using testing::ElementsAre;
 
 namespace {
-
-/// The system's calls, one of which fails.
-class FailingCalls : public SystemCalls
-{
-public:
-    /// Of all calls in order, the one that fails; -1 for none.
-    int failing = -1;
-    /// What is done instead of that call; its errno.
-    int error = EIO;
-    bool dies = false; ///< the whole process ends there
-    int made = 0;
-
-    /// The most bytes that a write takes.
-    size_t mostWritten = 10'000;
-
-    int openSource(const QByteArray &path) override { return fails() ? -1 : SystemCalls::openSource(path); }
-    int create(const QByteArray &path) override { return fails() ? -1 : SystemCalls::create(path); }
-    ssize_t read(int file, char *buffer, size_t size) override
-    {
-        return fails() ? -1 : SystemCalls::read(file, buffer, size);
-    }
-    ssize_t write(int file, const char *bytes, size_t size) override
-    {
-        return fails() ? -1 : SystemCalls::write(file, bytes, std::min(size, mostWritten));
-    }
-    int flush(int file) override { return fails() ? -1 : SystemCalls::flush(file); }
-    int close(int file) override
-    {
-        const int closed = SystemCalls::close(file);
-        return fails() ? -1 : closed;
-    }
-    int rename(const QByteArray &from, const QByteArray &to, bool mayReplace) override
-    {
-        return fails() ? -1 : SystemCalls::rename(from, to, mayReplace);
-    }
-
-private:
-    bool fails()
-    {
-        if (made++ != failing)
-            return false;
-        if (dies)
-            ::_exit(0);
-        errno = error;
-        return true;
-    }
-};
 
 class FileCopy : public testing::Test
 {
