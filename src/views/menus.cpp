@@ -7,10 +7,17 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QScopedValueRollback>
+#include <QTimer>
+
+#include <chrono>
+
+using namespace Qt::StringLiterals;
 
 namespace views {
 
 namespace {
+
+constexpr std::chrono::milliseconds Rest{400};
 
 QChar accessKey(const QString &caption)
 {
@@ -28,8 +35,13 @@ void closeMenus()
     }
 }
 
-Menus::Menus(QMenuBar *bar, EventRunner &events) : QObject(bar), bar_(bar), events_(events)
+Menus::Menus(QMenuBar *bar, EventRunner &events)
+    : QObject(bar), bar_(bar), events_(events), rest_(new QTimer(this))
 {
+    rest_->setObjectName(u"rest"_s);
+    rest_->setSingleShot(true);
+    rest_->setInterval(Rest);
+    rest_->callOnTimeout(this, &Menus::askWhereTheUserRests);
     build();
 }
 
@@ -111,9 +123,28 @@ void Menus::opens(QMenu *menu, controls::MenuItem &item)
     }
     if (passing_)
         return;
+    if (qobject_cast<QMenu *>(menu->parentWidget())) {
+        submenu_ = menu;
+        submenuItem_ = &item;
+        rest_->start();
+        return;
+    }
     // Not from here: the menu is about to appear, and must be closed again before the box is shown.
     QMetaObject::invokeMethod(
         menu, [this, menu, &item] { asks(menu, item); }, Qt::QueuedConnection);
+}
+
+// A submenu opens under a pointer that is only on its way to another item; its question waits until the
+// pointer has stayed.
+void Menus::askWhereTheUserRests()
+{
+    const auto *above = qobject_cast<QMenu *>(submenu_->parentWidget());
+    if (!submenu_->isVisible())
+        return;
+    if (above->activeAction() == submenu_->menuAction())
+        asks(submenu_, *submenuItem_);
+    else
+        rest_->start();
 }
 
 void Menus::asks(QMenu *menu, controls::MenuItem &item)

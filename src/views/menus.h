@@ -8,6 +8,7 @@
 class QAction;
 class QMenu;
 class QMenuBar;
+class QTimer;
 
 namespace views {
 
@@ -32,12 +33,16 @@ private:
     void bindItem(QAction *action, controls::MenuItem &item);
     void bindMenu(QMenu *menu, size_t menuRow);
     void opens(QMenu *menu, controls::MenuItem &item);
+    void askWhereTheUserRests();
     void asks(QMenu *menu, controls::MenuItem &item);
 
     QMenuBar *bar_;
     EventRunner &events_;
     Bindings bindings_;
     QString accessKeys_;
+    QTimer *rest_;             ///< until a submenu that has opened is meant
+    QMenu *submenu_ = nullptr; ///< that submenu
+    controls::MenuItem *submenuItem_ = nullptr;
     bool passing_ = false;   ///< another menu has just closed: the user passes along the menu bar
     bool reopening_ = false; ///< a menu opens again after its question
 };

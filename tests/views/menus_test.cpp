@@ -5,7 +5,9 @@
 
 #include <QMenu>
 #include <QMenuBar>
+#include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 using support::waitUntil;
@@ -160,6 +162,56 @@ TEST_F(MenuViews, do_not_ask_a_user_who_passes_along)
     QTest::keyClick(menu(u"&Model"_s), Qt::Key_Right);
     settle();
     EXPECT_TRUE(menu(u"&Programs"_s)->isVisible());
+    EXPECT_TRUE(messages().isEmpty());
+}
+
+// A submenu under a pointer on its way to another item.
+TEST_F(MenuViews, ask_for_a_submenu_only_where_the_user_rests_on_it)
+{
+    click(frm.filDatafiles, u"walk1.dg"_s);
+    bool menuOpen = true;
+    machine.dialogs.whileShown = [&](const platform::MessageBox &) {
+        menuOpen = QApplication::activePopupWidget() != nullptr;
+    };
+    openFromBar(u"&Data"_s);
+    QMenu *data = menu(u"&Data"_s);
+    data->setActiveAction(menu(u"&Convert data ..."_s)->menuAction());
+    QMenu *convert = menu(u"&Convert data ..."_s);
+    ASSERT_TRUE(waitUntil([&] { return convert->isVisible(); }));
+    QMenu *ariel = menu(u"&Ariel Dynamics ..."_s);
+    const auto *rest = window().findChild<QTimer *>(u"rest"_s);
+    QSignalSpy rested(rest, &QTimer::timeout);
+
+    convert->setActiveAction(ariel->menuAction());
+    ASSERT_TRUE(waitUntil([&] { return ariel->isVisible() && rest->isActive(); }));
+    convert->setActiveAction(action(convert, u"&Peak Performance"_s));
+    ASSERT_TRUE(waitUntil([&] { return rested.count() == 1; }));
+    settle();
+    EXPECT_TRUE(messages().isEmpty());
+    EXPECT_TRUE(convert->isVisible());
+
+    convert->setActiveAction(ariel->menuAction());
+    ASSERT_TRUE(waitUntil([this] { return messages().size() == 1; }));
+    settle();
+    EXPECT_EQ(messages(), QStringList{u"Select an APAS file (.1T/.3D) from Data menu first."_s});
+    EXPECT_FALSE(menuOpen);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "nor does it open again";
+}
+
+TEST_F(MenuViews, open_a_submenu_at_once_where_it_asks_nothing)
+{
+    addData({"walk1.3d"});
+    click(frm.filDatafiles, u"walk1.dg"_s);
+    openFromBar(u"&Data"_s);
+    QMenu *convert = menu(u"&Convert data ..."_s);
+    menu(u"&Data"_s)->setActiveAction(convert->menuAction());
+    ASSERT_TRUE(waitUntil([&] { return convert->isVisible(); }));
+    QMenu *ariel = menu(u"&Ariel Dynamics ..."_s);
+    convert->setActiveAction(ariel->menuAction());
+    ASSERT_TRUE(waitUntil([&] { return ariel->isVisible(); }));
+    EXPECT_FALSE(window().findChild<QTimer *>(u"rest"_s)->isActive());
+    EXPECT_TRUE(action(ariel, u"3&D"_s)->isEnabled());
+    EXPECT_FALSE(action(ariel, u"&1T"_s)->isEnabled());
     EXPECT_TRUE(messages().isEmpty());
 }
 
