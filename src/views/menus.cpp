@@ -3,6 +3,7 @@
 #include "shell/menu_tree.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QKeySequence>
 #include <QMenu>
 #include <QMenuBar>
@@ -150,12 +151,19 @@ void Menus::askWhereTheUserRests()
 void Menus::asks(QMenu *menu, controls::MenuItem &item)
 {
     closeMenus();
-    bar_->setActiveAction(nullptr);
+    leaveBar();
     events_.run(item.Opening);
     if (!item.OpensAfterAsking || events_.panel().unloading)
         return;
     const QScopedValueRollback reopening(reopening_, true);
     bar_->setActiveAction(menu->menuAction());
+}
+
+// The bar gives the focus back to where it was for the Escape key alone.
+void Menus::leaveBar()
+{
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QCoreApplication::sendEvent(bar_, &escape);
 }
 
 } // namespace views

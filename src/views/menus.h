@@ -35,6 +35,7 @@ private:
     void opens(QMenu *menu, controls::MenuItem &item);
     void askWhereTheUserRests();
     void asks(QMenu *menu, controls::MenuItem &item);
+    void leaveBar();
 
     QMenuBar *bar_;
     EventRunner &events_;

@@ -173,8 +173,10 @@ TEST_F(MenuViews, ask_for_a_submenu_only_where_the_user_rests_on_it)
     machine.dialogs.whileShown = [&](const platform::MessageBox &) {
         menuOpen = QApplication::activePopupWidget() != nullptr;
     };
-    openFromBar(u"&Data"_s);
+    list(u"Models (.CFB)"_s)->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(list(u"Models (.CFB)"_s), Qt::Key_D, Qt::AltModifier);
     QMenu *data = menu(u"&Data"_s);
+    ASSERT_TRUE(waitUntil([&] { return data->isVisible(); }));
     data->setActiveAction(menu(u"&Convert data ..."_s)->menuAction());
     QMenu *convert = menu(u"&Convert data ..."_s);
     ASSERT_TRUE(waitUntil([&] { return convert->isVisible(); }));
@@ -196,6 +198,7 @@ TEST_F(MenuViews, ask_for_a_submenu_only_where_the_user_rests_on_it)
     EXPECT_EQ(messages(), QStringList{u"Select an APAS file (.1T/.3D) from Data menu first."_s});
     EXPECT_FALSE(menuOpen);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "nor does it open again";
+    EXPECT_EQ(QApplication::focusWidget(), list(u"Models (.CFB)"_s));
 }
 
 TEST_F(MenuViews, open_a_submenu_at_once_where_it_asks_nothing)
