@@ -41,10 +41,11 @@ const std::vector<std::string> HelpTexts{"average.txt", "dg_file.txt",  "energy.
                                          "readme.txt",  "refila.txt",   "simulate.txt", "skelvo.txt",
                                          "torque.txt",  "updatekv.txt", "work.txt"};
 
-const std::vector<std::string> TrialFiles{
-    "JUMP1.CFB", "JUMP1.CN", "JUMP1.DG",  "JUMP1.KM",  "JUMP1.KS",  "LIFT1.CFB", "LIFT1.CN", "LIFT1.DG",
-    "LIFT1.km",  "LIFT1.ks", "LIFT1.rf",  "LIFT1.rf2", "WALK1.CFB", "WALK1.CN",  "WALK1.DG", "kick1.1t",
-    "kick1.3d",  "kick1.cf", "one_model", "peak1.cda", "run1.dg",   "walk2.cfb", "walk2.cn", "walk2.dg"};
+const std::vector<std::string> TrialFiles{"JUMP1.CFB", "JUMP1.CN",  "JUMP1.DG",  "JUMP1.KM",  "JUMP1.KS",
+                                          "LIFT1.CFB", "LIFT1.CN",  "LIFT1.DG",  "LIFT1.km",  "LIFT1.ks",
+                                          "LIFT1.rf",  "LIFT1.rf2", "WALK1.CFB", "WALK1.CN",  "WALK1.DG",
+                                          "kick1.1t",  "kick1.3d",  "kick1.cf",  "one_model", "peak1.cda",
+                                          "run1.dg",   "run1.ren",  "walk2.cfb", "walk2.cn",  "walk2.dg"};
 
 std::string extensionOf(const fs::path &path)
 {
