@@ -29,8 +29,9 @@ bool isOneFile(platform::FileSystem &files, const QString &one, const QString &o
 
 bool mayReplace(Panel &panel, const QString &path)
 {
+    const QString &lineBreak = panel.frm.LineBreak;
     const platform::Answer answer =
-        MsgBox(panel, {.text = u"The model "_s + path + u" is there already."_s + panel.frm.LineBreak
+        MsgBox(panel, {.text = u"This model is there already:"_s + lineBreak + path + lineBreak
                                + u"Do you want to replace it?"_s,
                        .icon = Icon::Question,
                        .buttons = platform::Buttons::YesNo,
@@ -45,13 +46,13 @@ bool copyModel(Panel &panel, const QString &source, const QString &destination)
     platform::FileSystem &files = panel.platform.files;
     const auto existing = files.existingFile(destination);
     if (existing && isOneFile(files, source, *existing)) {
-        shell::say(panel, u"%1 is that model itself: it stays as it is."_s.arg(*existing));
+        shell::say(panel, u"%1 is that model itself: it stays as it is."_s.arg(platform::nameOf(*existing)));
         return true;
     }
     if (existing && !mayReplace(panel, *existing))
         return false;
     files.copyFile(source, destination, existing ? Replacing::Agreed : Replacing::Refused);
-    shell::say(panel, u"%1 is ready."_s.arg(existing.value_or(destination)));
+    shell::say(panel, u"%1 is ready."_s.arg(platform::nameOf(existing.value_or(destination))));
     return true;
 }
 

@@ -120,8 +120,8 @@ TEST_F(NewModelOnDisk, replaces_the_model_that_is_there_in_another_case)
     EXPECT_THAT(names(), ElementsAre("walk2.Cfb"));
     EXPECT_EQ(scratch.read("data/walk2.Cfb"), model);
     ASSERT_EQ(dialogs.messages.size(), 1U);
-    EXPECT_EQ(dialogs.messages[0].text, u"The model "_s + panel.kinovra.DataDir
-                                            + u"\\walk2.Cfb is there already.\nDo you want to replace it?"_s);
+    EXPECT_EQ(dialogs.messages[0].text, u"This model is there already:\n"_s + panel.kinovra.DataDir
+                                            + u"\\walk2.Cfb\nDo you want to replace it?"_s);
 }
 
 TEST_F(NewModelOnDisk, is_told_to_have_failed_in_every_step)

@@ -62,8 +62,8 @@ protected:
 
     static MessageBox replace(const QString &path)
     {
-        return {u"The model "_s + path + u" is there already.\nDo you want to replace it?"_s, Icon::Question,
-                Buttons::YesNo, QString(), true};
+        return {u"This model is there already:\n"_s + path + u"\nDo you want to replace it?"_s,
+                Icon::Question, Buttons::YesNo, QString(), true};
     }
 };
 
@@ -73,7 +73,7 @@ TEST_F(NewModel, is_a_copy_in_the_data_directory_and_the_current_trial)
     EXPECT_EQ(content("Walk3.CFB"), "walk one");
     EXPECT_EQ(content("Walk1.cfb"), "walk one");
     expectMade(u"Walk3"_s, {u"Walk1.cfb"_s, u"walk2.Cfb"_s, u"Walk3.CFB"_s});
-    EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"C:\\DATA\\Walk3.CFB is ready."_s);
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"Walk3.CFB is ready."_s);
     EXPECT_EQ(kinovra.CurrentExtension, u"dg"_s);
     EXPECT_EQ(kinovra.SelectedFile, u"(before)"_s);
     EXPECT_EQ(frm.lblTitle.Caption.value(), u"(before)"_s);
@@ -154,7 +154,7 @@ TEST_F(NewModel, replaces_a_model_only_after_a_question)
     EXPECT_THAT(machine.dialogs.messages, ElementsAre(replace(u"C:\\DATA\\walk2.Cfb"_s)));
     EXPECT_EQ(kinovra.Answer, 6);
     EXPECT_EQ(content("walk2.cfb"), "base");
-    EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"C:\\DATA\\walk2.Cfb is ready."_s);
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"walk2.Cfb is ready."_s);
     EXPECT_EQ(kinovra.CurrentTrial, u"WALK2"_s);
     EXPECT_EQ(frm.filModels.Names.value().toList(), (QStringList{u"Walk1.cfb"_s, u"walk2.Cfb"_s}));
 }
@@ -165,12 +165,10 @@ TEST_F(NewModel, stays_as_it_is_where_it_is_the_chosen_model_itself)
     QStringList calls;
     machine.files.beforeCall = [&](const QString &call) { calls.append(call); };
     choose(u"C:\\DATA\\Walk1.cfb"_s, u"C:\\MODELS\\WALK1.cfb"_s);
-    EXPECT_EQ(frm.StatusBar1.Panel1.value(),
-              u"C:\\DATA\\Walk1.cfb is that model itself: it stays as it is."_s);
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"Walk1.cfb is that model itself: it stays as it is."_s);
     expectMade(u"WALK1"_s, {u"Walk1.cfb"_s, u"walk2.Cfb"_s});
     choose(u"C:\\MODELS\\SAME.CFB"_s, u"C:\\DATA\\walk2"_s);
-    EXPECT_EQ(frm.StatusBar1.Panel1.value(),
-              u"C:\\DATA\\walk2.Cfb is that model itself: it stays as it is."_s);
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"walk2.Cfb is that model itself: it stays as it is."_s);
     EXPECT_EQ(content("Walk1.cfb"), "walk one");
     EXPECT_EQ(content("walk2.cfb"), "walk two");
     EXPECT_FALSE(calls.contains(u"copyFile"_s));

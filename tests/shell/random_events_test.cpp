@@ -276,7 +276,7 @@ protected:
             {"Select an APAS file (.1T/.3D) from Data menu first.", {u"Answer"_s}},
             {"The Common File '", {u"Answer"_s}},
             {"Do you want to rewrite the model file with information", {u"Answer"_s}},
-            {"The model C:\\DATA\\", {u"Answer"_s}},
+            {"This model is there already:", {u"Answer"_s}},
             {"Cannot copy an open file.", {}},
             {"Error 61.  You must specify a complete destination file name.", {}},
             {R"(Error opening file: "C:\KINOVRA\REFILA.EXE")",
