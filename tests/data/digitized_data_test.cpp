@@ -27,19 +27,6 @@ protected:
         frm.mnuPrompt.Checked = false;
         forget();
     }
-
-    // What an earlier command may have left; an item that must not touch it leaves it.
-    void mark()
-    {
-        kinovra.ProgName = u"(before)"_s;
-        kinovra.SelectedFile = u"(before)"_s;
-        kinovra.TaskId = -1;
-        kinovra.Answer = -1;
-        frm.ProgPath = u"(before)"_s;
-        frm.Comm = u"(before)"_s;
-        frm.lblCommand.Caption = u"(before)"_s;
-        frm.lblCommand.Visible = false;
-    }
 };
 
 TEST_F(Datafile, shows_the_data_files_and_leaves_the_choice_among_several)
@@ -276,7 +263,7 @@ TEST_F(Datafile, knows_no_other_item)
 namespace {
 
 // Which files there are, and what the Data menu then offers, "x" for what is greyed out: the five items, then
-// Peak Performance.
+// the conversions.
 struct DataMenuRow
 {
     const char *files;
@@ -284,22 +271,22 @@ struct DataMenuRow
 };
 
 constexpr DataMenuRow DataMenu[]{
-    {"", "0xxxx x"},
-    {".dg", "0x23x x"},
-    {".cn", "0xxxx x"},
-    {".ren", "0xxxx x"},
-    {".cda", "0xxxx 3"},
-    {".dg .cn", "0123x x"},
-    {".dg .ren", "0x234 x"},
-    {".dg .cda", "0x23x 3"},
-    {".cn .ren", "0xxxx x"},
-    {".cn .cda", "0xxxx 3"},
-    {".ren .cda", "0xxxx 3"},
-    {".dg .cn .ren", "01234 x"},
-    {".dg .cn .cda", "0123x 3"},
-    {".dg .ren .cda", "0x234 3"},
-    {".cn .ren .cda", "0xxxx 3"},
-    {".dg .cn .ren .cda", "01234 3"},
+    {"", "0xxxx 012x456"},
+    {".dg", "0x23x 012x456"},
+    {".cn", "0xxxx 012x456"},
+    {".ren", "0xxxx 012x456"},
+    {".cda", "0xxxx 0123456"},
+    {".dg .cn", "0123x 012x456"},
+    {".dg .ren", "0x234 012x456"},
+    {".dg .cda", "0x23x 0123456"},
+    {".cn .ren", "0xxxx 012x456"},
+    {".cn .cda", "0xxxx 0123456"},
+    {".ren .cda", "0xxxx 0123456"},
+    {".dg .cn .ren", "01234 012x456"},
+    {".dg .cn .cda", "0123x 0123456"},
+    {".dg .ren .cda", "0x234 0123456"},
+    {".cn .ren .cda", "0xxxx 0123456"},
+    {".dg .cn .ren .cda", "01234 0123456"},
 };
 
 } // namespace
@@ -307,24 +294,11 @@ constexpr DataMenuRow DataMenu[]{
 class DataMenuOpening : public support::PanelFixture
 {
 protected:
+    static constexpr const char *All = ".dg .cn .ren .cda";
+
     void SetUp() override { load(); }
 
-    void haveOnly(const char *files)
-    {
-        for (const char *extension : {".dg", ".cn", ".ren", ".cda"})
-            machine.files.remove(u"C:\\DATA\\walk1"_s + QLatin1String(extension));
-        const QStringList present = QString(QLatin1String(files)).split(u' ', Qt::SkipEmptyParts);
-        for (const QString &extension : present)
-            addFile(u"C:\\DATA\\walk1"_s + extension);
-    }
-
-    QString enabled() const
-    {
-        QString result;
-        for (size_t i = 0; i < 5; ++i)
-            result += frm.mnuDatafile[i].Enabled ? QChar(u'0' + int(i)) : u'x';
-        return result + (frm.mnuConvert[3].Enabled ? u" 3"_s : u" x"_s);
-    }
+    QString enabled() const { return enabledOf(frm.mnuDatafile) + u' ' + enabledOf(frm.mnuConvert); }
 };
 
 TEST_F(DataMenuOpening, greys_out_what_cannot_run)
@@ -336,7 +310,7 @@ TEST_F(DataMenuOpening, greys_out_what_cannot_run)
             for (size_t i = 1; i < 5; ++i)
                 frm.mnuDatafile[i].Enabled = before;
             frm.mnuConvert[3].Enabled = before;
-            haveOnly(row.files);
+            haveOnly(u"WALK1"_s, All, row.files);
             openMenu(frm.mnuDatafiles);
             EXPECT_EQ(enabled(), QString(QLatin1String(row.enabled))) << row.files;
         }
@@ -347,12 +321,12 @@ TEST_F(DataMenuOpening, greys_out_what_cannot_run)
 TEST_F(DataMenuOpening, keeps_the_last_tests_result)
 {
     kinovra.CurrentTrial = u"walk1"_s;
-    haveOnly(".dg .cn .ren");
+    haveOnly(u"walk1"_s, All, ".dg .cn .ren");
     openMenu(frm.mnuDatafiles);
     EXPECT_EQ(kinovra.Answer, 53);
     EXPECT_THAT(machine.files.tested, ElementsAre(u"C:\\DATA\\WALK1.DG"_s, u"C:\\DATA\\WALK1.CN"_s,
                                                   u"C:\\DATA\\WALK1.REN"_s, u"C:\\DATA\\WALK1.CDA"_s));
-    haveOnly(".cda");
+    haveOnly(u"walk1"_s, All, ".cda");
     openMenu(frm.mnuDatafiles);
     EXPECT_EQ(kinovra.Answer, 0);
 }
@@ -360,5 +334,5 @@ TEST_F(DataMenuOpening, keeps_the_last_tests_result)
 TEST_F(DataMenuOpening, greys_out_all_commands_but_the_selection_without_a_trial)
 {
     openMenu(frm.mnuDatafiles);
-    EXPECT_EQ(enabled(), u"0xxxx x"_s);
+    EXPECT_EQ(enabled(), u"0xxxx 012x456"_s);
 }

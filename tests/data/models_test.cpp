@@ -29,18 +29,6 @@ protected:
         forget();
     }
 
-    void mark()
-    {
-        kinovra.ProgName = u"(before)"_s;
-        kinovra.SelectedFile = u"(before)"_s;
-        kinovra.TaskId = -1;
-        kinovra.Answer = -1;
-        frm.ProgPath = u"(before)"_s;
-        frm.Comm = u"(before)"_s;
-        frm.lblCommand.Caption = u"(before)"_s;
-        frm.lblCommand.Visible = false;
-    }
-
     void expectUntouched()
     {
         EXPECT_THAT(machine.programs.started, IsEmpty());
@@ -257,22 +245,22 @@ struct ModelMenuRow
 };
 
 constexpr ModelMenuRow ModelMenu[]{
-    {"", "0xxxxx N", 53},
-    {".dg", "0xxxxx N", 53},
-    {".rf", "0xxxxx N", 53},
-    {".rf2", "0xxxxx N", 53},
-    {".dg .rf", "0xxxxx N", 53},
-    {".dg .rf2", "0xxxxx N", 53},
-    {".rf .rf2", "0xxxxx N", 53},
-    {".dg .rf .rf2", "0xxxxx N", 53},
-    {".cfb", "0xx34x N", 53},
-    {".cfb .dg", "01x34x N", 53},
-    {".cfb .rf", "0x234x N", 53},
-    {".cfb .rf2", "0xx345 N", 0},
-    {".cfb .dg .rf", "01234x N", 53},
-    {".cfb .dg .rf2", "01x345 N", 0},
-    {".cfb .rf .rf2", "0x2345 N", 0},
-    {".cfb .dg .rf .rf2", "012345 N", 0},
+    {"", "0xxxxx new", 53},
+    {".dg", "0xxxxx new", 53},
+    {".rf", "0xxxxx new", 53},
+    {".rf2", "0xxxxx new", 53},
+    {".dg .rf", "0xxxxx new", 53},
+    {".dg .rf2", "0xxxxx new", 53},
+    {".rf .rf2", "0xxxxx new", 53},
+    {".dg .rf .rf2", "0xxxxx new", 53},
+    {".cfb", "0xx34x new", 53},
+    {".cfb .dg", "01x34x new", 53},
+    {".cfb .rf", "0x234x new", 53},
+    {".cfb .rf2", "0xx345 new", 0},
+    {".cfb .dg .rf", "01234x new", 53},
+    {".cfb .dg .rf2", "01x345 new", 0},
+    {".cfb .rf .rf2", "0x2345 new", 0},
+    {".cfb .dg .rf .rf2", "012345 new", 0},
 };
 
 } // namespace
@@ -282,21 +270,9 @@ class ModelMenuOpening : public support::PanelFixture
 protected:
     void SetUp() override { load(); }
 
-    void haveOnly(const char *files)
-    {
-        for (const char *extension : {".cfb", ".dg", ".rf", ".rf2"})
-            machine.files.remove(u"C:\\DATA\\lift1"_s + QLatin1String(extension));
-        const QStringList present = QString(QLatin1String(files)).split(u' ', Qt::SkipEmptyParts);
-        for (const QString &extension : present)
-            addFile(u"C:\\DATA\\lift1"_s + extension);
-    }
-
     QString enabled() const
     {
-        QString result;
-        for (size_t i = 0; i < 6; ++i)
-            result += frm.mnuModel[i].Enabled ? QChar(u'0' + int(i)) : u'x';
-        return result + (frm.mnuNewModel.Enabled ? u" N"_s : u" x"_s);
+        return enabledOf(frm.mnuModel) + (frm.mnuNewModel.Enabled ? u" new"_s : u" x"_s);
     }
 };
 
@@ -308,7 +284,7 @@ TEST_F(ModelMenuOpening, greys_out_what_cannot_run)
             for (size_t i = 1; i < 6; ++i)
                 frm.mnuModel[i].Enabled = before;
             frm.mnuNewModel.Enabled = before;
-            haveOnly(row.files);
+            haveOnly(u"LIFT1"_s, ".cfb .dg .rf .rf2", row.files);
             openMenu(frm.mnuModels);
             EXPECT_EQ(enabled(), QString(QLatin1String(row.enabled))) << row.files;
             EXPECT_EQ(kinovra.Answer, row.answer) << row.files;
@@ -320,7 +296,7 @@ TEST_F(ModelMenuOpening, greys_out_what_cannot_run)
 TEST_F(ModelMenuOpening, leaves_selection_and_new_model_without_a_trial)
 {
     openMenu(frm.mnuModels);
-    EXPECT_EQ(enabled(), u"0xxxxx N"_s);
+    EXPECT_EQ(enabled(), u"0xxxxx new"_s);
 }
 
 class EditorButtons : public Models

@@ -90,6 +90,32 @@ void PanelFixture::openMenu(const controls::MenuItem &menu)
     shell::dispatch(panel, menu.Opening);
 }
 
+void PanelFixture::mark()
+{
+    kinovra.ProgName = u"(before)"_s;
+    kinovra.SelectedFile = u"(before)"_s;
+    kinovra.TaskId = -1;
+    kinovra.Answer = -1;
+    frm.ProgPath = u"(before)"_s;
+    frm.Comm = u"(before)"_s;
+    frm.lblCommand.Caption = u"(before)"_s;
+    frm.lblCommand.Visible = false;
+}
+
+void PanelFixture::haveOnly(const QString &trial, const char *all, const char *present)
+{
+    const auto files = [&trial](const char *extensions) {
+        QStringList result = QString(QLatin1String(extensions)).split(u' ', Qt::SkipEmptyParts);
+        for (QString &name : result)
+            name = u"C:\\DATA\\"_s + trial + name;
+        return result;
+    };
+    for (const QString &path : files(all))
+        machine.files.remove(path);
+    for (const QString &path : files(present))
+        addFile(path);
+}
+
 void PanelFixture::forget()
 {
     machine.dialogs.messages.clear();

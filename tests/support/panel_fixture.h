@@ -42,6 +42,24 @@ protected:
     void click(const controls::MenuItem &item);
     void openMenu(const controls::MenuItem &menu);
 
+    /// Leaves "(before)" or -1 in what commands share, as an earlier command may have left something: what a
+    /// command must not touch still has it afterwards.
+    void mark();
+
+    /// Of the files `trial` + extension in C:\DATA, those of `present` are there and no other of `all`;
+    /// extensions stand between blanks.
+    void haveOnly(const QString &trial, const char *all, const char *present);
+
+    /// The index of every item of a menu array that is enabled, "x" for one that is greyed out: "01xx4".
+    template <typename Items>
+    static QString enabledOf(const Items &items)
+    {
+        QString result;
+        for (size_t i = 0; i < items.size(); ++i)
+            result += items[i].Enabled ? QChar(u'0' + static_cast<int>(i)) : u'x';
+        return result;
+    }
+
     /// Forgets messages, dialogs, starts, settings written and pauses.
     void forget();
 
