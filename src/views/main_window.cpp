@@ -62,6 +62,8 @@ MainWindow::MainWindow(EventRunner &events)
     : events_(events), frm_(events.panel().frm), activation_(this, [this] { events_.run(frm_.Activate); })
 {
     setMenuBar(new QMenuBar);
+    // The desktop's own bar could not close its menus before a question and open them again.
+    menuBar()->setNativeMenuBar(false);
     menus_ = new Menus(menuBar(), events_);
     setCentralWidget(makeCentre());
     makeStatusBar();

@@ -153,9 +153,12 @@ void MessageBoxes::setFilters(QFileDialog &dialog, const QString &filter, int in
 
 std::optional<QString> MessageBoxes::chosenIn(QFileDialog &dialog)
 {
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+    // The panel's programs know files, not addresses.
+    dialog.setSupportedSchemes({u"file"_s});
+    if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
-    return paths_.panelForm(dialog.selectedFiles().constFirst());
+    const QString file = dialog.selectedFiles().value(0);
+    return file.isEmpty() ? std::nullopt : std::optional(paths_.panelForm(file));
 }
 
 } // namespace views

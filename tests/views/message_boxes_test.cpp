@@ -191,6 +191,7 @@ TEST_F(FileDialogViews, ask_for_a_file)
         EXPECT_EQ(dialog.nameFilters(), QStringList{u"*.exe (*.[eE]x[eE])"_s});
         EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
         EXPECT_EQ(dialog.fileMode(), QFileDialog::ExistingFile);
+        EXPECT_EQ(dialog.supportedSchemes(), QStringList{u"file"_s});
         EXPECT_EQ(dialog.findChild<QLineEdit *>()->text(), QString());
         dialog.findChild<QLineEdit *>()->setText(u"noise.exe"_s);
         dialog.findChild<QPushButton *>()->click();
