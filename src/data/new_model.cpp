@@ -40,19 +40,40 @@ bool mayReplace(Panel &panel, const QString &path)
     return answer == platform::Yes;
 }
 
+void sayReady(Panel &panel, const QString &model)
+{
+    shell::say(panel, u"%1 is ready."_s.arg(platform::nameOf(model)));
+}
+
+// The user has agreed that `existing` is replaced. While the question was shown it may have become another
+// file: then that is what must be asked about.
+bool isStillThere(platform::FileSystem &files, const QString &destination, const QString &existing,
+                  const std::optional<platform::FileStamp> &asked)
+{
+    return files.existingFile(destination) == existing && files.stamp(existing) == asked;
+}
+
 // False where the user keeps the model that is there. Raises what the copy raises.
 bool copyModel(Panel &panel, const QString &source, const QString &destination)
 {
     platform::FileSystem &files = panel.platform.files;
-    const auto existing = files.existingFile(destination);
-    if (existing && isOneFile(files, source, *existing)) {
-        shell::say(panel, u"%1 is that model itself: it stays as it is."_s.arg(platform::nameOf(*existing)));
-        return true;
+    while (const auto existing = files.existingFile(destination)) {
+        if (isOneFile(files, source, *existing)) {
+            shell::say(panel,
+                       u"%1 is that model itself: it stays as it is."_s.arg(platform::nameOf(*existing)));
+            return true;
+        }
+        const auto asked = files.stamp(*existing);
+        if (!mayReplace(panel, *existing))
+            return false;
+        if (isStillThere(files, destination, *existing, asked)) {
+            files.copyFile(source, *existing, Replacing::Agreed);
+            sayReady(panel, *existing);
+            return true;
+        }
     }
-    if (existing && !mayReplace(panel, *existing))
-        return false;
-    files.copyFile(source, destination, existing ? Replacing::Agreed : Replacing::Refused);
-    shell::say(panel, u"%1 is ready."_s.arg(platform::nameOf(existing.value_or(destination))));
+    files.copyFile(source, destination, Replacing::Refused);
+    sayReady(panel, destination);
     return true;
 }
 

@@ -5,6 +5,8 @@
 
 #include <gmock/gmock.h>
 
+#include <functional>
+
 using namespace Qt::StringLiterals;
 using platform::Buttons;
 using platform::ErrorNumber;
@@ -157,6 +159,37 @@ TEST_F(NewModel, replaces_a_model_only_after_a_question)
     EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"walk2.Cfb is ready."_s);
     EXPECT_EQ(kinovra.CurrentTrial, u"WALK2"_s);
     EXPECT_EQ(frm.filModels.Names.value().toList(), (QStringList{u"Walk1.cfb"_s, u"walk2.Cfb"_s}));
+}
+
+TEST_F(NewModel, asks_again_about_a_model_that_has_changed_while_the_question_was_shown)
+{
+    // Saved anew by another program, replaced by a model of another spelling, gone.
+    const std::function<void()> changes[]{
+        [this] { addFile(u"C:\\DATA\\walk2.Cfb"_s, "two, improved"); },
+        [this] {
+            machine.files.remove(u"C:\\DATA\\walk2.Cfb"_s);
+            addFile(u"C:\\DATA\\WALK2.cfb"_s, "another");
+        },
+        [this] { machine.files.remove(u"C:\\DATA\\walk2.Cfb"_s); },
+    };
+    size_t shown = 0;
+    machine.dialogs.whileShown = [&](const MessageBox &) {
+        if (shown < std::size(changes))
+            changes[shown]();
+        ++shown;
+    };
+    machine.dialogs.answers = {platform::Yes, platform::Yes, platform::Yes};
+    choose(u"C:\\MODELS\\base.CFB"_s, u"C:\\DATA\\walk2"_s);
+    EXPECT_THAT(machine.dialogs.messages,
+                ElementsAre(replace(u"C:\\DATA\\walk2.Cfb"_s), replace(u"C:\\DATA\\walk2.Cfb"_s),
+                            replace(u"C:\\DATA\\WALK2.cfb"_s)));
+    EXPECT_EQ(content("walk2.cfb"), "base");
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"walk2.CFB is ready."_s);
+
+    machine.dialogs.answers = {platform::Yes, platform::No};
+    machine.dialogs.whileShown = [&](const MessageBox &) { changes[0](); };
+    choose(u"C:\\DATA\\Walk1.cfb"_s, u"C:\\DATA\\walk2"_s);
+    EXPECT_EQ(content("walk2.cfb"), "two, improved") << "what came meanwhile is not lost";
 }
 
 TEST_F(NewModel, stays_as_it_is_where_it_is_the_chosen_model_itself)

@@ -363,11 +363,13 @@ TEST_P(FileSystemContract, says_why_a_file_cannot_be_copied)
     EXPECT_EQ(world->content(u"walk1.cfb"_s), "model");
 }
 
-TEST_P(FileSystemContract, shows_a_copy_within_the_moment_in_which_it_was_made)
+TEST_P(FileSystemContract, copies_what_is_there_now_and_shows_it_within_the_same_moment)
 {
-    world->makeFile(u"walk1.cfb"_s, "model");
+    files.directory(world->base(), Reading::Anew);
     files.beginMoment();
     EXPECT_EQ(files.testReading(at(u"NEW.CFB"_s)), 53);
+    EXPECT_EQ(files.testReading(at(u"WALK1.CFB"_s)), 53);
+    world->makeFile(u"walk1.cfb"_s, "model");
     files.copyFile(at(u"walk1.cfb"_s), at(u"new.CFB"_s), Replacing::Refused);
     EXPECT_EQ(files.testReading(at(u"NEW.CFB"_s)), 0);
     files.endMoment();

@@ -218,7 +218,8 @@ protected:
         machine.programs.failure = oneIn(3) ? u"it was not found"_s : QString();
         machine.dialogs.chosenFiles.clear();
         while (!oneIn(3))
-            machine.dialogs.chosenFiles.push_back(QLatin1String(ChosenFiles[pick(std::size(ChosenFiles))]));
+            machine.dialogs.chosenFiles.emplace_back(
+                QLatin1String(ChosenFiles[pick(std::size(ChosenFiles))]));
         // The package comes and goes as well.
         if (oneIn(4))
             machine.files.remove(u"C:\\KINOVRA\\kinemati.exe"_s);

@@ -9,7 +9,8 @@
 
 namespace support {
 
-/// The system's calls, one of which fails.
+/// The system's calls, one of which fails. The group and the mode of the copy are not among them: they may
+/// fail.
 class FailingCalls : public platform::host::SystemCalls
 {
 public:
@@ -24,7 +25,10 @@ public:
     size_t mostWritten = 10'000;
 
     int openSource(const QByteArray &path) override { return fails() ? -1 : SystemCalls::openSource(path); }
-    int create(const QByteArray &path) override { return fails() ? -1 : SystemCalls::create(path); }
+    int create(const QByteArray &path, mode_t mode) override
+    {
+        return fails() ? -1 : SystemCalls::create(path, mode);
+    }
     ssize_t read(int file, char *buffer, size_t size) override
     {
         return fails() ? -1 : SystemCalls::read(file, buffer, size);
@@ -39,10 +43,17 @@ public:
         const int closed = SystemCalls::close(file);
         return fails() ? -1 : closed;
     }
-    int rename(const QByteArray &from, const QByteArray &to, bool mayReplace) override
+    int rename(const QByteArray &from, const QByteArray &to) override
     {
-        return fails() ? -1 : SystemCalls::rename(from, to, mayReplace);
+        return fails() ? -1 : SystemCalls::rename(from, to);
     }
+    int renameNew(const QByteArray &from, const QByteArray &to) override
+    {
+        return fails() ? -1 : SystemCalls::renameNew(from, to);
+    }
+
+    /// How a program ends that dies.
+    static constexpr int Killed = 7;
 
 private:
     bool fails()
@@ -50,7 +61,7 @@ private:
         if (made++ != failing)
             return false;
         if (dies)
-            ::_exit(0);
+            ::_exit(Killed);
         errno = error;
         return true;
     }

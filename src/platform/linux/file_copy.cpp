@@ -3,11 +3,11 @@
 #include "platform/linux/regular_file.h"
 #include "platform/linux/system_error.h"
 
-#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <optional>
 #include <utility>
+#include <vector>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -20,10 +20,9 @@ int SystemCalls::openSource(const QByteArray &path)
     return ::open(path.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
 }
 
-int SystemCalls::create(const QByteArray &path)
+int SystemCalls::create(const QByteArray &path, mode_t mode)
 {
-    constexpr mode_t LeftToTheUsersMask = 0666;
-    return ::open(path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, LeftToTheUsersMask);
+    return ::open(path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
 }
 
 ssize_t SystemCalls::read(int file, char *buffer, size_t size)
@@ -34,6 +33,12 @@ ssize_t SystemCalls::read(int file, char *buffer, size_t size)
 ssize_t SystemCalls::write(int file, const char *bytes, size_t size)
 {
     return ::write(file, bytes, size);
+}
+
+int SystemCalls::setGroup(int file, gid_t group)
+{
+    constexpr auto SameUser = static_cast<uid_t>(-1);
+    return ::fchown(file, SameUser, group);
 }
 
 int SystemCalls::setMode(int file, mode_t mode)
@@ -51,93 +56,132 @@ int SystemCalls::close(int file)
     return ::close(file);
 }
 
-int SystemCalls::rename(const QByteArray &from, const QByteArray &to, bool mayReplace)
+int SystemCalls::rename(const QByteArray &from, const QByteArray &to)
 {
-    if (mayReplace)
-        return ::rename(from.constData(), to.constData());
-    const int result = ::renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE);
-    if (result == 0 || errno != EINVAL)
-        return result;
-    // A file system that cannot do both in one step, such as a share.
-    struct stat status = {};
-    if (::lstat(to.constData(), &status) == 0) {
-        errno = EEXIST;
-        return -1;
-    }
     return ::rename(from.constData(), to.constData());
+}
+
+int SystemCalls::renameNew(const QByteArray &from, const QByteArray &to)
+{
+    return ::renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE);
+}
+
+int SystemCalls::link(const QByteArray &from, const QByteArray &to)
+{
+    return ::link(from.constData(), to.constData());
 }
 
 namespace {
 
-/// An open file of the copy. Closing it may fail: a share tells a full disk only then.
-class OpenFile
+bool isUnsupported(int systemError)
+{
+    return systemError == EINVAL || systemError == ENOSYS || systemError == EOPNOTSUPP;
+}
+
+/// The file that is copied, open for reading.
+class Source
 {
 public:
-    OpenFile(SystemCalls &calls, int file) : calls_(calls), file_(file)
+    Source(SystemCalls &calls, const QByteArray &path) : calls_(calls), file_(calls.openSource(path))
     {
-        if (file < 0)
-            raise(errno);
+        if (file_ < 0)
+            raiseForFile(errno);
     }
-    ~OpenFile()
-    {
-        if (file_ >= 0)
-            calls_.close(file_);
-    }
-    OpenFile(const OpenFile &) = delete;
-    OpenFile &operator=(const OpenFile &) = delete;
+    ~Source() { calls_.close(file_); }
+    Source(const Source &) = delete;
+    Source &operator=(const Source &) = delete;
 
-    int get() const { return file_; }
-
-    void close()
-    {
-        if (calls_.close(std::exchange(file_, -1)) != 0)
-            raise(errno);
-    }
+    int file() const { return file_; }
 
 private:
     SystemCalls &calls_;
     int file_;
 };
 
-/// The name beside the destination under which the copy is written. Unless it has taken the destination's
-/// name, it is removed.
-class NameBeside
+/// The copy while it is written, beside its destination. Unless it has taken the destination's name it is
+/// removed, and closed before: some shares do not remove an open file.
+class CopyBeside
 {
 public:
-    explicit NameBeside(QByteArray path) : path_(std::move(path)) {}
-    ~NameBeside()
+    CopyBeside(SystemCalls &calls, const QByteArray &destination, mode_t mode) : calls_(calls)
     {
+        // Hidden, and no model by its extension: no list shows what a killed panel leaves behind.
+        const QByteArray start = destination.left(destination.lastIndexOf('/') + 1) + ".kinovra-"
+                                 + QByteArray::number(::getpid()) + '-';
+        int number = 0;
+        do {
+            path_ = start + QByteArray::number(number++);
+            file_ = calls.create(path_, mode);
+        } while (file_ < 0 && errno == EEXIST);
+        if (file_ < 0)
+            raise(errno);
+    }
+    ~CopyBeside()
+    {
+        if (file_ >= 0)
+            calls_.close(file_);
         if (!path_.isEmpty())
             ::unlink(path_.constData());
     }
-    NameBeside(const NameBeside &) = delete;
-    NameBeside &operator=(const NameBeside &) = delete;
+    CopyBeside(const CopyBeside &) = delete;
+    CopyBeside &operator=(const CopyBeside &) = delete;
 
-    const QByteArray &path() const { return path_; }
-    void isTaken() { path_.clear(); }
+    int file() const { return file_; }
+
+    // A file system without groups or modes refuses this; the copy is whole all the same.
+    void takeOver(const struct stat &replaced)
+    {
+        constexpr mode_t Permissions = 0777;
+        calls_.setGroup(file_, replaced.st_gid);
+        calls_.setMode(file_, replaced.st_mode & Permissions);
+    }
+
+    // Writing has succeeded only when the file is closed: a share may tell a full disk only then.
+    void finish()
+    {
+        int flushed = 0;
+        do
+            flushed = calls_.flush(file_);
+        while (flushed != 0 && errno == EINTR);
+        if (flushed != 0 && !isUnsupported(errno))
+            raise(errno);
+        // An interrupted close has closed the file.
+        if (calls_.close(std::exchange(file_, -1)) != 0 && errno != EINTR)
+            raise(errno);
+    }
+
+    void replace(const QByteArray &destination)
+    {
+        if (calls_.rename(path_, destination) != 0)
+            raise(errno);
+        path_.clear();
+    }
+
+    void becomeNew(const QByteArray &destination)
+    {
+        if (calls_.renameNew(path_, destination) == 0) {
+            path_.clear();
+            return;
+        }
+        if (!isUnsupported(errno))
+            raise(errno);
+        // A second name replaces nothing either; the first one is removed with this object.
+        if (calls_.link(path_, destination) == 0)
+            return;
+        struct stat status = {};
+        if (errno == EEXIST || ::lstat(destination.constData(), &status) == 0)
+            raise(EEXIST);
+        replace(destination);
+    }
 
 private:
+    SystemCalls &calls_;
     QByteArray path_;
+    int file_ = -1;
 };
 
-// Hidden, and no model by its extension: no list shows what a killed panel leaves behind.
-QByteArray nameBeside(const QByteArray &path, int number)
-{
-    return path.left(path.lastIndexOf('/') + 1) + ".kinovra-" + QByteArray::number(::getpid()) + '-'
-           + QByteArray::number(number);
-}
-
-QByteArray freeNameBeside(const QByteArray &path)
-{
-    struct stat status = {};
-    int number = 0;
-    while (::lstat(nameBeside(path, number).constData(), &status) == 0)
-        ++number;
-    return nameBeside(path, number);
-}
-
-// The mode of the file that is to be replaced; nothing where there is none.
-std::optional<mode_t> replacedMode(const QByteArray &path, Replacing replacing)
+// The file that is to be replaced; nothing where there is none.
+std::optional<struct stat> replacedFile(const QByteArray &path, Replacing replacing)
 {
     struct stat status = {};
     if (::lstat(path.constData(), &status) != 0) {
@@ -152,8 +196,7 @@ std::optional<mode_t> replacedMode(const QByteArray &path, Replacing replacing)
     // Renaming would replace even what its owner has protected.
     if (::euidaccess(path.constData(), W_OK) != 0)
         raise(errno);
-    constexpr mode_t Permissions = 0777;
-    return status.st_mode & Permissions;
+    return status;
 }
 
 void writeAll(SystemCalls &calls, int file, const char *bytes, size_t size)
@@ -162,8 +205,8 @@ void writeAll(SystemCalls &calls, int file, const char *bytes, size_t size)
         const ssize_t written = calls.write(file, bytes, size);
         if (written < 0 && errno == EINTR)
             continue;
-        if (written < 0)
-            raise(errno);
+        if (written <= 0)
+            raise(written < 0 ? errno : EIO);
         bytes += written;
         size -= static_cast<size_t>(written);
     }
@@ -172,7 +215,7 @@ void writeAll(SystemCalls &calls, int file, const char *bytes, size_t size)
 void copyContent(SystemCalls &calls, int from, int to)
 {
     constexpr size_t BufferSize = 64 * size_t(1024);
-    std::array<char, BufferSize> buffer;
+    std::vector<char> buffer(BufferSize);
     for (;;) {
         const ssize_t count = calls.read(from, buffer.data(), buffer.size());
         if (count < 0 && errno == EINTR)
@@ -189,22 +232,23 @@ void copyContent(SystemCalls &calls, int from, int to)
 
 void copyWholeFile(const QByteArray &from, const QByteArray &to, Replacing replacing, SystemCalls &calls)
 {
+    constexpr mode_t LeftToTheUsersMask = 0666;
+    // Until the copy has the group and the mode of what it replaces.
+    constexpr mode_t Private = 0600;
+
     requireRegularFile(from);
-    const OpenFile source(calls, calls.openSource(from));
-    const std::optional<mode_t> mode = replacedMode(to, replacing);
-    const QByteArray beside = freeNameBeside(to);
-    OpenFile copy(calls, calls.create(beside));
-    NameBeside name(beside);
-    copyContent(calls, source.get(), copy.get());
-    // A file system without permissions refuses this; the copy is whole all the same.
-    if (mode)
-        calls.setMode(copy.get(), *mode);
-    if (calls.flush(copy.get()) != 0)
-        raise(errno);
-    copy.close();
-    if (calls.rename(beside, to, mode.has_value()) != 0)
-        raise(errno);
-    name.isTaken();
+    const Source source(calls, from);
+    requireRegularFile(source.file());
+    const std::optional<struct stat> replaced = replacedFile(to, replacing);
+    CopyBeside copy(calls, to, replaced ? Private : LeftToTheUsersMask);
+    copyContent(calls, source.file(), copy.file());
+    if (replaced)
+        copy.takeOver(*replaced);
+    copy.finish();
+    if (replaced)
+        copy.replace(to);
+    else
+        copy.becomeNew(to);
 }
 
 } // namespace platform::host

@@ -10,6 +10,7 @@
 
 #include <array>
 #include <cerrno>
+#include <csignal>
 #include <cstdlib>
 #include <memory>
 #include <new>
@@ -82,6 +83,8 @@ QByteArrayView withoutHalfCharacter(QByteArrayView bytes)
 LinuxFileSystem::LinuxFileSystem(const QByteArray &winePrefix, std::unique_ptr<SystemCalls> copying)
     : drives_(winePrefix), lookup_(drives_), copying_(std::move(copying))
 {
+    // A limit on the size of files is an error of the write and must not end the program.
+    ::signal(SIGXFSZ, SIG_IGN);
     const QString start = adopt(processDirectory());
     current_.setDrive(start.at(0));
     current_.set(start);

@@ -9,19 +9,24 @@
 
 namespace platform::host {
 
-namespace {
-
-[[noreturn]] void raiseForFile(int systemError)
+void raiseForFile(int systemError)
 {
     throw RuntimeError(systemError == ENOENT ? ErrorNumber::FileNotFound : errorNumber(systemError));
 }
-
-} // namespace
 
 void requireRegularFile(const QByteArray &hostPath)
 {
     struct stat status = {};
     if (::stat(hostPath.constData(), &status) != 0)
+        raiseForFile(errno);
+    if (!S_ISREG(status.st_mode))
+        throw RuntimeError(ErrorNumber::PathFileAccess);
+}
+
+void requireRegularFile(int descriptor)
+{
+    struct stat status = {};
+    if (::fstat(descriptor, &status) != 0)
         raiseForFile(errno);
     if (!S_ISREG(status.st_mode))
         throw RuntimeError(ErrorNumber::PathFileAccess);
@@ -33,6 +38,7 @@ FileDescriptor openForReading(const QByteArray &hostPath)
     FileDescriptor descriptor(::open(hostPath.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
     if (!descriptor.isValid())
         raiseForFile(errno);
+    requireRegularFile(descriptor.get());
     return descriptor;
 }
 

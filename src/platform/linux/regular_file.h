@@ -10,6 +10,12 @@ namespace platform::host {
 /// act on it. Raises FileNotFound, PathFileAccess, PermissionDenied.
 void requireRegularFile(const QByteArray &hostPath);
 
+/// The same for a file that is open: another one may have taken its name in between.
+void requireRegularFile(int descriptor);
+
+/// Raises the error of a call on a file: what is missing is the file.
+[[noreturn]] void raiseForFile(int systemError);
+
 /// Opens a regular file for reading. Raises as requireRegularFile does.
 FileDescriptor openForReading(const QByteArray &hostPath);
 

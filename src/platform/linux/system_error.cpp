@@ -18,6 +18,10 @@ ErrorNumber errorNumber(int systemError)
     case ENAMETOOLONG:
     case EILSEQ:
         return ErrorNumber::BadFileName;
+    case EBUSY:
+    case ETXTBSY:
+    case EAGAIN:
+        return ErrorNumber::FileAlreadyOpen;
     case EEXIST:
         return ErrorNumber::FileAlreadyExists;
     case EIO:
@@ -29,6 +33,10 @@ ErrorNumber errorNumber(int systemError)
     case ENODEV:
     case ENXIO:
     case EHOSTDOWN:
+    case EHOSTUNREACH:
+    case ENETUNREACH:
+    case ENOTCONN:
+    case ETIMEDOUT:
         return ErrorNumber::DeviceUnavailable;
     case ENOMEDIUM:
         return ErrorNumber::DiskNotReady;
