@@ -8,6 +8,9 @@
 #include "shell/dispatch.h"
 #include "shell/file_names.h"
 
+#include <algorithm>
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace data {
@@ -19,7 +22,8 @@ using platform::Icon;
 using platform::UCase;
 using shell::MsgBox;
 
-enum Vendor { PeakPerformance = 3, TextFile = 5, Vicon = 6 };
+constexpr int TextFile = 5;
+constexpr int Vicon = 6;
 
 // By index of mnuArielType.
 constexpr std::array<const char *, 10> ApasExtensions{".3d", ".1t", ".2t", ".3t", ".4t",

@@ -6,6 +6,9 @@ namespace data {
 
 using shell::Panel;
 
+/// Index of the item of mnuConvert that converts the trial's .cda file.
+constexpr int PeakPerformance = 3;
+
 /// Converts what another system has recorded, by index: 3 Peak Performance, 5 a text file, both of the
 /// current trial. The others say that they are not there yet, but for 6, which does nothing.
 void mnuConvert_Click(Panel &panel, int index);

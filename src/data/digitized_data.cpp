@@ -4,6 +4,7 @@
 #include "browser/file_lists.h"
 #include "browser/test_file.h"
 #include "browser/trial_files.h"
+#include "data/conversion.h"
 #include "launcher/directory_commands.h"
 #include "launcher/program_runner.h"
 #include "launcher/starting.h"
@@ -20,8 +21,6 @@ using platform::Icon;
 using shell::MsgBox;
 
 enum Item { Select, ScaleRefine, Animate, ViewInNotepad, Renumber };
-
-constexpr size_t PeakPerformance = 3;
 
 void select(Panel &panel)
 {

@@ -27,12 +27,13 @@ bool isOneFile(platform::FileSystem &files, const QString &one, const QString &o
     return stampOfOne && stampOfOther && stampOfOne->isOfSameFile(*stampOfOther);
 }
 
-bool mayReplace(Panel &panel, const QString &path)
+bool mayReplace(Panel &panel, const QString &path, bool hasChanged)
 {
     const QString &lineBreak = panel.frm.LineBreak;
+    const QString found =
+        hasChanged ? u"This model has changed meanwhile:"_s : u"This model is there already:"_s;
     const platform::Answer answer =
-        MsgBox(panel, {.text = u"This model is there already:"_s + lineBreak + path + lineBreak
-                               + u"Do you want to replace it?"_s,
+        MsgBox(panel, {.text = found + lineBreak + path + lineBreak + u"Do you want to replace it?"_s,
                        .icon = Icon::Question,
                        .buttons = platform::Buttons::YesNo,
                        .noByDefault = true});
@@ -57,6 +58,7 @@ bool isStillThere(platform::FileSystem &files, const QString &destination, const
 bool copyModel(Panel &panel, const QString &source, const QString &destination)
 {
     platform::FileSystem &files = panel.platform.files;
+    bool hasChanged = false;
     while (const auto existing = files.existingFile(destination)) {
         if (isOneFile(files, source, *existing)) {
             shell::say(panel,
@@ -64,13 +66,14 @@ bool copyModel(Panel &panel, const QString &source, const QString &destination)
             return true;
         }
         const auto asked = files.stamp(*existing);
-        if (!mayReplace(panel, *existing))
+        if (!mayReplace(panel, *existing, hasChanged))
             return false;
         if (isStillThere(files, destination, *existing, asked)) {
             files.copyFile(source, *existing, Replacing::Agreed);
             sayReady(panel, *existing);
             return true;
         }
+        hasChanged = true;
     }
     files.copyFile(source, destination, Replacing::Refused);
     sayReady(panel, destination);
@@ -108,6 +111,8 @@ void mnuNewModel_Click(Panel &panel)
     if (!chosen)
         return;
     const QString name = shell::StripExtension(platform::nameOf(*chosen)) + u".CFB"_s;
+    // What was said of an earlier copy is no longer so.
+    shell::say(panel, QString());
     try {
         if (!copyModel(panel, *source, kinovra.DataDir + u'\\' + name))
             return;

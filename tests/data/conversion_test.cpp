@@ -43,8 +43,7 @@ protected:
         kinovra.CurrentExtension = u"txt"_s;
         // The listing device is no matter of the converters.
         click(frm.mnuListing[1]);
-        frm.lblCommand.Caption = u"(before)"_s;
-        frm.lblCommand.Visible = false;
+        mark();
     }
 
     Start direct(const char *program, const CommandText &parameters) const
@@ -62,7 +61,7 @@ TEST_F(Conversion, of_peak_performance_data)
     EXPECT_EQ(machine.programs.started[0].text(), u"C:\\KINOVRA\\Skelvo.exe /A kick.cda"_s);
     EXPECT_EQ(kinovra.ProgName, u"Skelvo"_s);
     EXPECT_EQ(kinovra.TaskId, 51);
-    EXPECT_EQ(frm.lblCommand.Caption.value(), u"(before)"_s);
+    expectMarkedBut({u"ProgName"_s, u"TaskId"_s});
     EXPECT_THAT(machine.files.tested, IsEmpty());
 }
 
@@ -74,7 +73,7 @@ TEST_F(Conversion, of_a_text_file)
     EXPECT_EQ(machine.programs.started[0].text(), u"C:\\KINOVRA\\Conv2DG.exe kick.txt"_s);
     EXPECT_EQ(kinovra.ProgName, u"Conv2DG"_s);
     EXPECT_EQ(kinovra.TaskId, 51);
-    EXPECT_EQ(frm.lblCommand.Caption.value(), u"(before)"_s);
+    expectMarkedBut({u"ProgName"_s, u"TaskId"_s});
 }
 
 TEST_F(Conversion, takes_the_extension_as_it_is)
@@ -97,11 +96,10 @@ TEST_F(Conversion, of_other_systems_is_not_there_yet)
 
 TEST_F(Conversion, of_vicon_data_does_nothing_at_all)
 {
-    kinovra.ProgName = u"(before)"_s;
     click(frm.mnuConvert[6]);
     EXPECT_THAT(machine.dialogs.messages, IsEmpty());
     EXPECT_THAT(machine.programs.started, IsEmpty());
-    EXPECT_EQ(kinovra.ProgName, u"(before)"_s);
+    expectMarkedBut({});
 }
 
 TEST_F(Conversion, of_every_apas_type)
@@ -110,8 +108,7 @@ TEST_F(Conversion, of_every_apas_type)
     for (const ApasType &type : ApasTypes) {
         addData({type.file});
         forget();
-        kinovra.ProgName.clear();
-        frm.lblCommand.Visible = false;
+        mark();
         click(frm.mnuArielType[type.item]);
         EXPECT_THAT(
             machine.programs.started,
@@ -124,20 +121,21 @@ TEST_F(Conversion, of_every_apas_type)
         EXPECT_EQ(kinovra.Answer, 0);
         EXPECT_THAT(machine.dialogs.messages, IsEmpty());
         EXPECT_THAT(machine.files.tested, ElementsAre(u"C:\\DATA\\KICK.CF"_s));
+        expectMarkedBut({u"ProgName"_s, u"TaskId"_s, u"Answer"_s, u"lblCommand"_s});
     }
 }
 
 TEST_F(Conversion, of_apas_data_needs_the_common_file)
 {
-    addData({"kick.3d"});
-    kinovra.ProgName = u"(before)"_s;
+    kinovra.CurrentTrial = u"straße"_s;
+    addFile(u"C:\\DATA\\straße.3d"_s);
     click(frm.mnuArielType[0]);
     EXPECT_THAT(machine.dialogs.messages,
-                ElementsAre(MessageBox{u"The Common File 'KICK.CF' is missing."_s, Icon::Exclamation}));
+                ElementsAre(MessageBox{u"The Common File 'STRAßE.CF' is missing."_s, Icon::Exclamation}))
+        << "one character stays one";
     EXPECT_THAT(machine.programs.started, IsEmpty());
     EXPECT_EQ(kinovra.Answer, 53);
-    EXPECT_EQ(kinovra.ProgName, u"(before)"_s);
-    EXPECT_EQ(frm.lblCommand.Caption.value(), u"(before)"_s);
+    expectMarkedBut({u"Answer"_s});
 }
 
 TEST_F(Conversion, passes_the_short_name_of_a_long_one_and_says_so)
@@ -208,9 +206,13 @@ TEST_F(Conversion, enables_the_apas_types_that_the_trial_has)
         EXPECT_EQ(enabledOf(frm.mnuArielType), expected);
         for (const ApasType &type : ApasTypes)
             frm.mnuArielType[type.item].Enabled = !frm.mnuArielType[type.item].Enabled;
+        frm.filDatafiles.Visible = false;
+        frm.lblDatafiles.Visible = false;
         openMenu(frm.mnuAriel);
         EXPECT_EQ(enabledOf(frm.mnuArielType), expected);
         EXPECT_EQ(messages().size(), present == 0 ? 1 : 0);
+        EXPECT_EQ(frm.filDatafiles.Visible, present == 0);
+        EXPECT_EQ(frm.lblDatafiles.Visible, present == 0);
         EXPECT_EQ(frm.mnuAriel.AsksOnOpening(), present == 0) << present;
         forget();
     }
@@ -238,10 +240,12 @@ TEST_F(Conversion, hints_at_the_data_files_where_the_trial_has_no_apas_file)
     addData({"kick.dg"});
     frm.filDatafiles.Visible = false;
     frm.lblDatafiles.Visible = false;
-    kinovra.Answer = 7;
     EXPECT_TRUE(frm.mnuAriel.AsksOnOpening());
-    EXPECT_EQ(kinovra.Answer, 7) << "whether it will ask is no answer yet";
+    expectMarkedBut({});
     EXPECT_FALSE(frm.mnuAriel.OpensAfterAsking);
+    machine.dialogs.whileShown = [this](const MessageBox &) {
+        EXPECT_FALSE(frm.filDatafiles.Visible || frm.lblDatafiles.Visible) << "the message comes first";
+    };
     openMenu(frm.mnuAriel);
     EXPECT_THAT(
         machine.dialogs.messages,

@@ -50,12 +50,14 @@ TEST_F(Datafile, takes_the_only_data_file_up_to_its_first_dot)
     addData({"walk.left.1t"});
     machine.files.setShortName(u"C:\\DATA\\walk.left.1t"_s, u"WALKLE~1.1T"_s);
     frm.lblTitle.Caption = u"(before)"_s;
+    kinovra.BinaryFile = u"walk.km"_s;
     mark();
     click(frm.mnuDatafile[0]);
     EXPECT_EQ(kinovra.CurrentTrial, u"walk"_s);
     EXPECT_EQ(frm.lblTrial.Caption.value(), u"WALK"_s);
     EXPECT_EQ(kinovra.CurrentExtension, u"dg"_s) << "only a click in the list changes it";
-    EXPECT_EQ(kinovra.SelectedFile, u"(before)"_s);
+    expectMarkedBut({});
+    EXPECT_EQ(kinovra.BinaryFile, u"walk.km"_s);
     EXPECT_EQ(frm.lblTitle.Caption.value(), u"(before)"_s);
     EXPECT_THAT(machine.dialogs.messages, IsEmpty()) << "nor is it warned of a long name";
 }
@@ -115,8 +117,11 @@ TEST_F(Datafile, scales_and_refines_with_every_listing_device)
         EXPECT_EQ(frm.lblCommand.Caption.value(), u"c:\\kinovra\\refila.exe "_s + text.toLower());
         EXPECT_TRUE(frm.lblCommand.Visible);
         EXPECT_EQ(kinovra.TaskId, 0) << "the runner's result, not the value of the start";
-        EXPECT_EQ(kinovra.Answer, -1);
         EXPECT_EQ(kinovra.SelectedFile, device == 0 ? u"C:\\DATA\\Refila.out"_s : u"(before)"_s);
+        QStringList changed{u"ProgName"_s, u"TaskId"_s, u"ProgPath"_s, u"Comm"_s, u"lblCommand"_s};
+        if (device == 0)
+            changed.append(u"SelectedFile"_s);
+        expectMarkedBut(changed);
     }
 }
 
@@ -163,7 +168,8 @@ TEST_F(Datafile, animates_through_the_runner_without_a_listing_switch)
         EXPECT_THAT(machine.dialogs.messages, IsEmpty()) << "it writes no listing to offer";
         EXPECT_EQ(kinovra.ProgName, u"Skelvo"_s);
         EXPECT_EQ(frm.ProgPath, u"C:\\KINOVRA\\Skelvo.exe"_s);
-        EXPECT_EQ(frm.Comm.text(), u"(before)"_s);
+        expectMarkedBut(
+            {u"ProgName"_s, u"SelectedFile"_s, u"TaskId"_s, u"Answer"_s, u"ProgPath"_s, u"lblCommand"_s});
         EXPECT_EQ(frm.lblCommand.Caption.value(), u"c:\\kinovra\\skelvo.exe walk1.dg"_s);
         EXPECT_EQ(kinovra.Answer, 0);
         EXPECT_EQ(kinovra.TaskId, 42) << "the start's own value stays";
@@ -184,9 +190,7 @@ TEST_F(Datafile, opens_the_data_in_notepad_whatever_the_text_viewer_is)
     EXPECT_EQ(kinovra.ProgName, u"Notepad"_s);
     EXPECT_EQ(kinovra.SelectedFile, u"Walk1.dg"_s);
     EXPECT_EQ(kinovra.TaskId, 51);
-    EXPECT_EQ(kinovra.Answer, -1);
-    EXPECT_EQ(frm.ProgPath, u"(before)"_s);
-    EXPECT_EQ(frm.lblCommand.Caption.value(), u"(before)"_s);
+    expectMarkedBut({u"ProgName"_s, u"SelectedFile"_s, u"TaskId"_s});
     EXPECT_THAT(machine.files.tested, IsEmpty());
 }
 
@@ -207,6 +211,8 @@ TEST_F(Datafile, renumbers_directly)
     EXPECT_TRUE(frm.lblCommand.Visible);
     EXPECT_EQ(kinovra.TaskId, 51);
     EXPECT_THAT(machine.clock.pauses, IsEmpty());
+    expectMarkedBut(
+        {u"ProgName"_s, u"SelectedFile"_s, u"TaskId"_s, u"Answer"_s, u"ProgPath"_s, u"lblCommand"_s});
 }
 
 TEST_F(Datafile, does_not_renumber_what_is_not_there)
@@ -219,9 +225,7 @@ TEST_F(Datafile, does_not_renumber_what_is_not_there)
                                        Icon::Exclamation}));
     EXPECT_THAT(machine.programs.started, IsEmpty());
     EXPECT_EQ(kinovra.Answer, 53);
-    EXPECT_EQ(kinovra.ProgName, u"(before)"_s);
-    EXPECT_EQ(kinovra.SelectedFile, u"(before)"_s);
-    EXPECT_EQ(frm.lblCommand.Caption.value(), u"(before)"_s);
+    expectMarkedBut({u"Answer"_s});
 }
 
 TEST_F(Datafile, says_why_renumbering_did_not_start)
@@ -257,7 +261,7 @@ TEST_F(Datafile, knows_no_other_item)
     const MessageBox error{u"Program select error in Datafile menu."_s, Icon::Exclamation};
     EXPECT_THAT(machine.dialogs.messages, ElementsAre(error, error));
     EXPECT_THAT(machine.programs.started, IsEmpty());
-    EXPECT_EQ(kinovra.ProgName, u"(before)"_s);
+    expectMarkedBut({});
 }
 
 namespace {
@@ -322,13 +326,18 @@ TEST_F(DataMenuOpening, keeps_the_last_tests_result)
 {
     kinovra.CurrentTrial = u"walk1"_s;
     haveOnly(u"walk1"_s, All, ".dg .cn .ren");
+    const QStringList four{u"C:\\DATA\\WALK1.DG"_s, u"C:\\DATA\\WALK1.CN"_s, u"C:\\DATA\\WALK1.REN"_s,
+                           u"C:\\DATA\\WALK1.CDA"_s};
     openMenu(frm.mnuDatafiles);
     EXPECT_EQ(kinovra.Answer, 53);
-    EXPECT_THAT(machine.files.tested, ElementsAre(u"C:\\DATA\\WALK1.DG"_s, u"C:\\DATA\\WALK1.CN"_s,
-                                                  u"C:\\DATA\\WALK1.REN"_s, u"C:\\DATA\\WALK1.CDA"_s));
+    EXPECT_EQ(machine.files.tested, four);
     haveOnly(u"walk1"_s, All, ".cda");
+    forget();
+    mark();
     openMenu(frm.mnuDatafiles);
     EXPECT_EQ(kinovra.Answer, 0);
+    EXPECT_EQ(machine.files.tested, four) << "also where the data are missing";
+    expectMarkedBut({u"Answer"_s});
 }
 
 TEST_F(DataMenuOpening, greys_out_all_commands_but_the_selection_without_a_trial)

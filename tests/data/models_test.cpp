@@ -29,14 +29,10 @@ protected:
         forget();
     }
 
-    void expectUntouched()
+    void expectNothingRun(const QStringList &changed)
     {
         EXPECT_THAT(machine.programs.started, IsEmpty());
-        EXPECT_EQ(kinovra.ProgName, u"(before)"_s);
-        EXPECT_EQ(kinovra.TaskId, -1);
-        EXPECT_EQ(frm.ProgPath, u"(before)"_s);
-        EXPECT_EQ(frm.lblCommand.Caption.value(), u"(before)"_s);
-        EXPECT_FALSE(frm.lblCommand.Visible);
+        expectMarkedBut(changed);
     }
 
     Start direct(const char *program, const CommandText &parameters, Show show = Show::Shown) const
@@ -61,7 +57,7 @@ protected:
         EXPECT_EQ(frm.lblCommand.Caption.value(), frm.ProgPath + parameters.text());
         EXPECT_TRUE(frm.lblCommand.Visible);
         EXPECT_EQ(kinovra.TaskId, 51);
-        EXPECT_EQ(kinovra.SelectedFile, u"(before)"_s);
+        expectMarkedBut({u"ProgName"_s, u"TaskId"_s, u"Answer"_s, u"ProgPath"_s, u"Comm"_s, u"lblCommand"_s});
         EXPECT_THAT(machine.clock.pauses, IsEmpty());
     }
 
@@ -82,6 +78,7 @@ TEST_F(Models, are_shown_and_left_to_be_chosen_among_several)
     EXPECT_TRUE(frm.lblModels.Visible);
     EXPECT_EQ(frm.filModels.ListCount(), 3) << "the list was refreshed";
     EXPECT_EQ(kinovra.CurrentTrial, u"Walk1"_s);
+    EXPECT_EQ(frm.lblTrial.Caption.value(), u"WALK1.dg"_s);
     EXPECT_THAT(machine.dialogs.messages, IsEmpty());
 }
 
@@ -97,7 +94,7 @@ TEST_F(Models, choose_the_trial_of_the_only_one_up_to_its_first_dot)
     EXPECT_EQ(kinovra.CurrentTrial, u"walk"_s);
     EXPECT_EQ(frm.lblTrial.Caption.value(), u"WALK"_s);
     EXPECT_EQ(kinovra.CurrentExtension, u"dg"_s);
-    EXPECT_EQ(kinovra.SelectedFile, u"(before)"_s);
+    expectMarkedBut({});
     EXPECT_EQ(frm.lblTitle.Caption.value(), u"(before)"_s);
     EXPECT_THAT(machine.dialogs.messages, IsEmpty());
     EXPECT_THAT(machine.settings.written, IsEmpty());
@@ -110,13 +107,15 @@ TEST_F(Models, are_offered_to_be_made_where_there_is_none)
     frm.filModels.Visible = false;
     frm.lblModels.Visible = false;
     mark();
+    machine.dialogs.whileShown = [this](const MessageBox &) {
+        EXPECT_TRUE(frm.filModels.Visible && frm.lblModels.Visible) << "before the question";
+    };
     machine.dialogs.answers = {platform::No};
     click(frm.mnuModel[0]);
     EXPECT_THAT(machine.dialogs.messages, ElementsAre(createModel));
     EXPECT_EQ(kinovra.Answer, 7);
-    EXPECT_TRUE(frm.filModels.Visible && frm.lblModels.Visible);
     EXPECT_EQ(kinovra.CurrentTrial, u"Walk1"_s);
-    expectUntouched();
+    expectNothingRun({u"Answer"_s});
 
     forget();
     machine.dialogs.answers = {platform::Yes};
@@ -149,7 +148,7 @@ TEST_F(Models, are_not_rewritten_against_the_users_will)
     click(frm.mnuModel[1]);
     EXPECT_THAT(machine.dialogs.messages, ElementsAre(rewrite));
     EXPECT_EQ(kinovra.Answer, 7);
-    expectUntouched();
+    expectNothingRun({u"Answer"_s});
 }
 
 TEST_F(Models, need_the_digitized_data_for_that)
@@ -159,7 +158,7 @@ TEST_F(Models, need_the_digitized_data_for_that)
     click(frm.mnuModel[1]);
     EXPECT_THAT(machine.dialogs.messages, ElementsAre(missing("WALK1.DG")));
     EXPECT_EQ(kinovra.Answer, 53);
-    expectUntouched();
+    expectNothingRun({u"Answer"_s});
 }
 
 TEST_F(Models, take_forces_for_the_bare_trial_without_a_question)
@@ -192,7 +191,7 @@ TEST_F(Models, take_no_forces_that_are_not_there)
     EXPECT_EQ(kinovra.Answer, 53);
     click(frm.mnuModel[5]);
     EXPECT_THAT(machine.dialogs.messages, ElementsAre(missing("WALK1.RF"), missing("WALK1.RF2")));
-    expectUntouched();
+    expectNothingRun({u"Answer"_s});
 }
 
 TEST_F(Models, are_edited_without_a_file)
@@ -202,8 +201,7 @@ TEST_F(Models, are_edited_without_a_file)
     EXPECT_THAT(machine.programs.started, ElementsAre(direct("modlex", {}, Show::Normal)));
     EXPECT_EQ(machine.programs.started[0].text(), u"C:\\KINOVRA\\modlex.exe"_s);
     EXPECT_EQ(kinovra.TaskId, 51);
-    EXPECT_EQ(kinovra.ProgName, u"(before)"_s);
-    EXPECT_EQ(frm.lblCommand.Caption.value(), u"(before)"_s);
+    expectMarkedBut({u"TaskId"_s});
     EXPECT_THAT(machine.settings.written, IsEmpty());
     EXPECT_THAT(machine.files.tested, IsEmpty());
 }
@@ -220,7 +218,7 @@ TEST_F(Models, open_in_notepad_by_their_bare_name)
     EXPECT_EQ(kinovra.ProgName, u"Notepad.exe"_s);
     EXPECT_EQ(kinovra.SelectedFile, u"Walk1.cfb"_s);
     EXPECT_EQ(kinovra.TaskId, 51);
-    EXPECT_EQ(frm.lblCommand.Caption.value(), u"(before)"_s);
+    expectMarkedBut({u"ProgName"_s, u"SelectedFile"_s, u"TaskId"_s});
     EXPECT_THAT(machine.files.tested, IsEmpty()) << "a missing one is written there";
 }
 
@@ -230,7 +228,7 @@ TEST_F(Models, know_no_other_command)
     for (int index : {-1, 6})
         shell::dispatch(panel, [this, index] { data::mnuModel_Click(panel, index); });
     EXPECT_THAT(machine.dialogs.messages, IsEmpty());
-    expectUntouched();
+    expectNothingRun({});
 }
 
 namespace {
@@ -293,6 +291,21 @@ TEST_F(ModelMenuOpening, greys_out_what_cannot_run)
     EXPECT_THAT(machine.dialogs.messages, IsEmpty());
 }
 
+TEST_F(ModelMenuOpening, tests_the_model_first_and_nothing_more_without_it)
+{
+    kinovra.CurrentTrial = u"lift1"_s;
+    haveOnly(u"lift1"_s, ".cfb .dg .rf .rf2", ".dg .rf .rf2");
+    mark();
+    openMenu(frm.mnuModels);
+    EXPECT_THAT(machine.files.tested, ElementsAre(u"C:\\DATA\\LIFT1.CFB"_s));
+    expectMarkedBut({u"Answer"_s});
+    forget();
+    addData({"lift1.cfb"});
+    openMenu(frm.mnuModels);
+    EXPECT_THAT(machine.files.tested, ElementsAre(u"C:\\DATA\\LIFT1.CFB"_s, u"C:\\DATA\\LIFT1.DG"_s,
+                                                  u"C:\\DATA\\LIFT1.RF"_s, u"C:\\DATA\\LIFT1.RF2"_s));
+}
+
 TEST_F(ModelMenuOpening, leaves_selection_and_new_model_without_a_trial)
 {
     openMenu(frm.mnuModels);
@@ -315,8 +328,8 @@ TEST_F(EditorButtons, open_the_trials_model)
                 ElementsAre(Written{u"Kinovra"_s, u"Startup"_s, u"Datadir"_s, u"C:\\DATA"_s}));
     EXPECT_EQ(writtenBefore, 1U) << "the editor finds the data directory there";
     EXPECT_EQ(kinovra.TaskId, 51);
-    EXPECT_EQ(frm.lblCommand.Caption.value(), u"(before)"_s);
-    EXPECT_EQ(kinovra.ProgName, u"(before)"_s);
+    EXPECT_EQ(kinovra.Answer, 0);
+    expectMarkedBut({u"TaskId"_s, u"Answer"_s});
 }
 
 TEST_F(EditorButtons, open_no_file_where_the_trial_has_no_model)
@@ -326,6 +339,7 @@ TEST_F(EditorButtons, open_no_file_where_the_trial_has_no_model)
     EXPECT_THAT(machine.programs.started, ElementsAre(direct("modlex", u" ;"_s, Show::Normal)));
     EXPECT_EQ(machine.programs.started[0].text(), u"C:\\KINOVRA\\modlex.exe ;"_s);
     EXPECT_THAT(machine.dialogs.messages, IsEmpty());
+    EXPECT_EQ(kinovra.Answer, 53);
     EXPECT_EQ(machine.settings.written.size(), 1U);
 }
 
@@ -349,7 +363,6 @@ TEST_F(EditorButtons, open_the_graph_type_in_notepad)
                                   u"C:\\DATA"_s, Show::Normal}));
     EXPECT_EQ(machine.programs.started[0].text(), u"notepad.exe C:\\KINOVRA\\graphs\\My Angles.GRA"_s);
     EXPECT_EQ(kinovra.TaskId, 51);
-    EXPECT_EQ(kinovra.ProgName, u"(before)"_s);
-    EXPECT_EQ(kinovra.SelectedFile, u"(before)"_s);
+    expectMarkedBut({u"TaskId"_s});
     EXPECT_THAT(machine.settings.written, IsEmpty());
 }

@@ -194,3 +194,24 @@ TEST_F(NewModelOnDisk, stays_as_it_is_under_every_name_of_its_own)
     EXPECT_EQ(scratch.read("Walk1.cfb"), model);
     EXPECT_TRUE(std::filesystem::is_symlink(scratch.path("data/link.cfb").toStdString()));
 }
+
+TEST_F(NewModelOnDisk, asks_again_where_a_link_leads_elsewhere_meanwhile)
+{
+    scratch.makeFile("first.cfb", "first");
+    scratch.makeFile("second.cfb", "second");
+    scratch.makeLink("data/link.cfb", "../first.cfb");
+    dialogs.whileShown = [this](const MessageBox &) {
+        scratch.remove("data/link.cfb");
+        scratch.makeLink("data/link.cfb", "../second.cfb");
+    };
+    dialogs.answers = {platform::Yes, platform::No};
+    copyTo(u"link"_s);
+    const QString models = files.adopt(scratch.path());
+    ASSERT_EQ(dialogs.messages.size(), 2U);
+    EXPECT_EQ(dialogs.messages[0].text,
+              u"This model is there already:\n"_s + models + u"\\first.cfb\nDo you want to replace it?"_s);
+    EXPECT_EQ(dialogs.messages[1].text, u"This model has changed meanwhile:\n"_s + models
+                                            + u"\\second.cfb\nDo you want to replace it?"_s);
+    EXPECT_EQ(scratch.read("first.cfb"), "first");
+    EXPECT_EQ(scratch.read("second.cfb"), "second");
+}

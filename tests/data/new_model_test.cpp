@@ -29,8 +29,11 @@ protected:
         load();
         click(frm.filDatafiles, u"Walk1.dg"_s);
         frm.lblTitle.Caption = u"(before)"_s;
-        kinovra.SelectedFile = u"(before)"_s;
+        kinovra.BinaryFile = u"walk1.km"_s;
         frm.filModels.Visible = false;
+        frm.lblModels.Visible = false;
+        frm.StatusBar1.Panel1 = u"(before)"_s;
+        mark();
         forget();
     }
 
@@ -50,6 +53,8 @@ protected:
         EXPECT_EQ(kinovra.CurrentTrial, trial);
         EXPECT_EQ(frm.lblTrial.Caption.value(), trial.toUpper());
         EXPECT_TRUE(frm.filModels.Visible);
+        EXPECT_FALSE(frm.lblModels.Visible);
+        EXPECT_EQ(kinovra.BinaryFile, u"walk1.km"_s);
         EXPECT_EQ(frm.filModels.Names.value().toList(), models);
     }
 
@@ -60,6 +65,13 @@ protected:
         EXPECT_FALSE(frm.filModels.Visible);
         EXPECT_EQ(content("Walk1.cfb"), "walk one");
         EXPECT_EQ(content("walk2.cfb"), "walk two");
+    }
+
+    static MessageBox replaceChanged(const QString &path)
+    {
+        MessageBox box = replace(path);
+        box.text = u"This model has changed meanwhile:\n"_s + path + u"\nDo you want to replace it?"_s;
+        return box;
     }
 
     static MessageBox replace(const QString &path)
@@ -77,7 +89,7 @@ TEST_F(NewModel, is_a_copy_in_the_data_directory_and_the_current_trial)
     expectMade(u"Walk3"_s, {u"Walk1.cfb"_s, u"walk2.Cfb"_s, u"Walk3.CFB"_s});
     EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"Walk3.CFB is ready."_s);
     EXPECT_EQ(kinovra.CurrentExtension, u"dg"_s);
-    EXPECT_EQ(kinovra.SelectedFile, u"(before)"_s);
+    expectMarkedBut({});
     EXPECT_EQ(frm.lblTitle.Caption.value(), u"(before)"_s);
     EXPECT_THAT(machine.dialogs.messages, IsEmpty());
     EXPECT_THAT(machine.programs.started, IsEmpty());
@@ -129,6 +141,9 @@ TEST_F(NewModel, gets_the_models_extension_in_place_of_another)
         choose(u"C:\\DATA\\Walk1.cfb"_s, u"C:\\DATA\\"_s + QLatin1String(given));
         EXPECT_EQ(machine.files.existingFile(u"C:\\DATA\\"_s + QLatin1String(made)),
                   u"C:\\DATA\\"_s + QLatin1String(made));
+        if (QLatin1String(given) == u".lift4") {
+            EXPECT_EQ(kinovra.CurrentTrial, QString()) << "nothing stands before the first dot";
+        }
     }
 }
 
@@ -147,6 +162,7 @@ TEST_F(NewModel, replaces_a_model_only_after_a_question)
     EXPECT_THAT(machine.dialogs.messages, ElementsAre(replace(u"C:\\DATA\\walk2.Cfb"_s)))
         << "the full path of what would be written, as it is spelled";
     EXPECT_EQ(kinovra.Answer, 7);
+    expectMarkedBut({u"Answer"_s});
     expectUnchanged();
     EXPECT_EQ(frm.StatusBar1.Panel1.value(), QString());
 
@@ -181,8 +197,8 @@ TEST_F(NewModel, asks_again_about_a_model_that_has_changed_while_the_question_wa
     machine.dialogs.answers = {platform::Yes, platform::Yes, platform::Yes};
     choose(u"C:\\MODELS\\base.CFB"_s, u"C:\\DATA\\walk2"_s);
     EXPECT_THAT(machine.dialogs.messages,
-                ElementsAre(replace(u"C:\\DATA\\walk2.Cfb"_s), replace(u"C:\\DATA\\walk2.Cfb"_s),
-                            replace(u"C:\\DATA\\WALK2.cfb"_s)));
+                ElementsAre(replace(u"C:\\DATA\\walk2.Cfb"_s), replaceChanged(u"C:\\DATA\\walk2.Cfb"_s),
+                            replaceChanged(u"C:\\DATA\\WALK2.cfb"_s)));
     EXPECT_EQ(content("walk2.cfb"), "base");
     EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"walk2.CFB is ready."_s);
 
@@ -218,7 +234,8 @@ TEST_F(NewModel, is_given_up_without_a_word_where_a_dialog_is_cancelled)
     EXPECT_EQ(machine.dialogs.saveRequests.size(), 1U);
     EXPECT_THAT(machine.dialogs.messages, IsEmpty());
     expectUnchanged();
-    EXPECT_EQ(frm.StatusBar1.Panel1.value(), QString());
+    expectMarkedBut({});
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"(before)"_s);
 }
 
 TEST_F(NewModel, is_not_copied_over_an_open_file)
@@ -272,9 +289,25 @@ TEST_F(NewModel, tells_every_other_error_with_its_description)
             EXPECT_THAT(machine.dialogs.messages,
                         ElementsAre(MessageBox{QLatin1String(text), Icon::Exclamation}));
             expectUnchanged();
+            expectMarkedBut({});
             EXPECT_EQ(content("Walk3.CFB"), "(none)");
+            EXPECT_EQ(frm.StatusBar1.Panel1.value(), QString()) << "nothing is ready";
         }
     }
+}
+
+TEST_F(NewModel, does_not_replace_what_has_come_after_the_last_look)
+{
+    machine.files.beforeCall = [this](const QString &call) {
+        if (call == u"copyFile")
+            addFile(u"C:\\DATA\\Walk3.CFB"_s, "another program's");
+    };
+    choose(u"C:\\DATA\\Walk1.cfb"_s, u"C:\\DATA\\Walk3"_s);
+    EXPECT_EQ(
+        messages(),
+        QStringList{u"Error 58.  You must specify a complete destination file name.\nFile already exists"_s});
+    EXPECT_EQ(content("Walk3.CFB"), "another program's");
+    expectUnchanged();
 }
 
 TEST_F(NewModel, is_not_copied_from_what_is_gone_or_over_a_folder)
@@ -309,6 +342,18 @@ TEST_F(NewModel, is_found_in_the_root_of_a_drive)
     choose(u"C:\\MODELS\\base.CFB"_s, u"D:\\Walk3"_s);
     EXPECT_EQ(machine.files.content(u"D:\\Walk3.CFB"_s), "base");
     EXPECT_EQ(frm.filModels.Names.value().toList(), QStringList{u"Walk3.CFB"_s});
+}
+
+TEST_F(NewModel, is_found_there_also_while_another_drive_is_the_current_one)
+{
+    machine.files.addDrive(u"d: [stick]"_s);
+    machine.files.addDirectory(u"D:\\STUDY"_s);
+    kinovra.DataDir = u"D:\\STUDY"_s;
+    machine.files.changeDrive(u"c:"_s);
+    machine.files.changeDirectory(u"C:\\MODELS"_s);
+    choose(u"C:\\MODELS\\base.CFB"_s, u"C:\\MODELS\\Walk3"_s);
+    EXPECT_EQ(machine.files.content(u"D:\\STUDY\\Walk3.CFB"_s), "base");
+    EXPECT_EQ(machine.files.content(u"C:\\MODELS\\Walk3.CFB"_s), std::nullopt);
 }
 
 TEST_F(NewModel, is_given_up_where_the_window_is_closed_meanwhile)

@@ -102,6 +102,21 @@ void PanelFixture::mark()
     frm.lblCommand.Visible = false;
 }
 
+void PanelFixture::expectMarkedBut(const QStringList &changed)
+{
+    const std::pair<const char *, bool> marked[]{
+        {"ProgName", kinovra.ProgName == u"(before)"},
+        {"SelectedFile", kinovra.SelectedFile == u"(before)"},
+        {"TaskId", kinovra.TaskId == -1},
+        {"Answer", kinovra.Answer == -1},
+        {"ProgPath", frm.ProgPath == u"(before)"},
+        {"Comm", frm.Comm.text() == u"(before)"},
+        {"lblCommand", frm.lblCommand.Caption.value() == u"(before)" && !frm.lblCommand.Visible},
+    };
+    for (const auto &[name, isMarked] : marked)
+        EXPECT_EQ(isMarked, !changed.contains(QLatin1String(name))) << name;
+}
+
 void PanelFixture::haveOnly(const QString &trial, const char *all, const char *present)
 {
     const auto files = [&trial](const char *extensions) {

@@ -46,6 +46,10 @@ protected:
     /// command must not touch still has it afterwards.
     void mark();
 
+    /// Expects of all that mark() has left that only these have changed, by their names; "lblCommand" for its
+    /// caption and visibility.
+    void expectMarkedBut(const QStringList &changed);
+
     /// Of the files `trial` + extension in C:\DATA, those of `present` are there and no other of `all`;
     /// extensions stand between blanks.
     void haveOnly(const QString &trial, const char *all, const char *present);

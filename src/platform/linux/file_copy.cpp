@@ -128,12 +128,14 @@ public:
 
     int file() const { return file_; }
 
-    // A file system without groups or modes refuses this; the copy is whole all the same.
+    // A file system without groups or modes refuses this; the copy is whole all the same. What the group may
+    // do is not given to another one.
     void takeOver(const struct stat &replaced)
     {
         constexpr mode_t Permissions = 0777;
-        calls_.setGroup(file_, replaced.st_gid);
-        calls_.setMode(file_, replaced.st_mode & Permissions);
+        constexpr mode_t OfGroup = 0070;
+        const bool hasGroup = calls_.setGroup(file_, replaced.st_gid) == 0;
+        calls_.setMode(file_, replaced.st_mode & (hasGroup ? Permissions : Permissions & ~OfGroup));
     }
 
     // Writing has succeeded only when the file is closed: a share may tell a full disk only then.

@@ -244,6 +244,24 @@ TEST_F(FileCopy, is_whole_where_the_file_system_knows_neither_groups_nor_modes_n
     }
 }
 
+TEST_F(FileCopy, gives_nobody_elses_group_what_the_group_might_do)
+{
+    class ForeignGroup : public SystemCalls
+    {
+    public:
+        int setGroup(int, gid_t) override
+        {
+            errno = EPERM;
+            return -1;
+        }
+    } calls;
+    ::chmod(scratch.path("walk2.cfb").constData(), 0664);
+    EXPECT_EQ(copy("walk2.cfb", calls), 0);
+    struct stat status = {};
+    ::stat(scratch.path("walk2.cfb").constData(), &status);
+    EXPECT_EQ(status.st_mode & 0777U, 0604U);
+}
+
 TEST_F(FileCopy, fails_where_nothing_more_is_written)
 {
     class StuckCalls : public SystemCalls
