@@ -108,11 +108,13 @@ public:
         // Hidden, and no model by its extension: no list shows what a killed panel leaves behind.
         const QByteArray start = destination.left(destination.lastIndexOf('/') + 1) + ".kinovra-"
                                  + QByteArray::number(::getpid()) + '-';
-        int number = 0;
-        do {
-            path_ = start + QByteArray::number(number++);
+        constexpr int MostNames = 1000;
+        for (int number = 0; file_ < 0 && number < MostNames; ++number) {
+            path_ = start + QByteArray::number(number);
             file_ = calls.create(path_, mode);
-        } while (file_ < 0 && errno == EEXIST);
+            if (file_ < 0 && errno != EEXIST)
+                break;
+        }
         if (file_ < 0)
             raise(errno);
     }

@@ -316,6 +316,21 @@ TEST_F(FileCopy, leaves_other_copies_that_are_on_their_way)
     EXPECT_EQ(content(first), "of another computer");
 }
 
+TEST_F(FileCopy, gives_up_where_every_name_beside_is_taken)
+{
+    class TakenCalls : public SystemCalls
+    {
+    public:
+        int create(const QByteArray &, mode_t) override
+        {
+            errno = EEXIST;
+            return -1;
+        }
+    } calls;
+    EXPECT_EQ(copy("walk2.cfb", calls), 58);
+    EXPECT_EQ(content("walk2.cfb"), "old");
+}
+
 TEST_F(FileCopy, keeps_group_and_mode_of_what_it_replaces)
 {
     // Of the groups that a user has, any but the first: only then can a file be given to it.
