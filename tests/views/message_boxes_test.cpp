@@ -258,3 +258,12 @@ TEST_F(FileDialogViews, do_not_ask_about_a_file_that_is_there)
     EXPECT_EQ(boxes.saveFile({.initialDirectory = panelDirectory(), .filter = u"*.exe"_s}),
               panelDirectory() + u"\\noise.exe"_s);
 }
+
+TEST_F(FileDialogViews, give_nothing_where_no_name_was_chosen)
+{
+    whenShown<QFileDialog>([](QFileDialog &dialog) {
+        dialog.setFileMode(QFileDialog::ExistingFiles);
+        static_cast<QDialog &>(dialog).done(QDialog::Accepted);
+    });
+    EXPECT_EQ(boxes.saveFile({.initialDirectory = panelDirectory()}), std::nullopt);
+}
