@@ -21,6 +21,11 @@ std::optional<QString> SilentDialogs::saveFile(const platform::SaveFileRequest &
     return std::nullopt;
 }
 
+std::optional<platform::Colour> SilentDialogs::chooseColour(platform::Colour)
+{
+    return std::nullopt;
+}
+
 BenchPanel::BenchPanel(const QString &settings) : settings_(settings)
 {
     shell::connectRooms(panel_);

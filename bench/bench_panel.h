@@ -5,6 +5,7 @@
 #include "platform/linux/linux_environment.h"
 #include "platform/linux/linux_file_system.h"
 #include "platform/linux/linux_programs.h"
+#include "platform/linux/linux_registry.h"
 #include "shell/panel.h"
 
 namespace bench {
@@ -16,6 +17,7 @@ public:
     platform::Answer message(const platform::MessageBox &box) override;
     std::optional<QString> openFile(const platform::OpenFileRequest &request) override;
     std::optional<QString> saveFile(const platform::SaveFileRequest &request) override;
+    std::optional<platform::Colour> chooseColour(platform::Colour initial) override;
 };
 
 /// A panel on the real host, with settings of its own.
@@ -35,7 +37,8 @@ private:
     platform::host::LinuxPrograms programs_{files_, QByteArray()};
     SilentDialogs dialogs_;
     platform::EventLoopClock clock_;
-    platform::Platform machine_{settings_, environment_, files_, programs_, dialogs_, clock_};
+    platform::host::LinuxRegistry registry_;
+    platform::Platform machine_{settings_, environment_, files_, programs_, dialogs_, clock_, registry_};
     shell::Panel panel_{machine_};
 };
 

@@ -3,6 +3,7 @@
 #include "platform/linux/linux_environment.h"
 #include "platform/linux/linux_file_system.h"
 #include "platform/linux/linux_programs.h"
+#include "platform/linux/linux_registry.h"
 #include "shell/connect_rooms.h"
 #include "shell/panel.h"
 #include "views/message_boxes.h"
@@ -54,7 +55,8 @@ int main(int argc, char *argv[])
                                                       + "/kinovra-console");
     views::MessageBoxes dialogs(files);
     platform::EventLoopClock clock;
-    platform::Platform machine{settings, environment, files, programs, dialogs, clock};
+    platform::host::LinuxRegistry registry;
+    platform::Platform machine{settings, environment, files, programs, dialogs, clock, registry};
 
     shell::Panel panel(machine);
     shell::connectRooms(panel);

@@ -65,6 +65,14 @@ enum class Show : qint16 {
     Shown = 5 ///< at its current size and position
 };
 
+/// What `Start::file` names.
+enum class Target {
+    Program,
+    Document, ///< of `Start::directory` and found nowhere else, for whatever the system opens it with; an
+              ///< empty name is that directory itself
+    Address ///< of the web, beginning with "https://"
+};
+
 /// What a command wants to be started: a plain value that tests compare.
 struct Start
 {
@@ -76,6 +84,7 @@ struct Start
     Show show = Show::Normal;
     qint64 owner = 0;      ///< handle of the window that asks the operating system
     bool isViewer = false; ///< the program is no part of the package: it only shows the document
+    Target target = Target::Program;
 
     bool operator==(const Start &other) const = default;
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/colour.h"
+
 #include <QString>
 
 #include <optional>
@@ -66,6 +68,9 @@ public:
 
     /// The full path of the file to be written; nothing when the dialog was cancelled.
     virtual std::optional<QString> saveFile(const SaveFileRequest &request) = 0;
+
+    /// The chosen colour; nothing when the dialog was cancelled. `initial` is the one that is shown first.
+    virtual std::optional<Colour> chooseColour(Colour initial) = 0;
 };
 
 } // namespace platform

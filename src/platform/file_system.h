@@ -2,6 +2,7 @@
 
 #include "platform/directory.h"
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -32,6 +33,16 @@ struct FileStamp
 /// Whether the user has agreed that a copy takes the place of the file that is there.
 enum class Replacing { Refused, Agreed };
 
+/// A file that is open for reading; it is closed when it is destroyed.
+class OpenedFile
+{
+public:
+    virtual ~OpenedFile() = default;
+
+    /// The next `most` bytes, fewer only at the end of the file. Raises DeviceError and the like.
+    virtual QByteArray read(qsizetype most) = 0;
+};
+
 /// Files and directories in the panel's path language. Letter case does not count in any name. A drive text
 /// ("c: [label]") is accepted wherever a path is, also in front of one. Calls raise RuntimeError; opening a
 /// pipe or a device is refused and never waits.
@@ -61,6 +72,10 @@ public:
     /// error: FileNotFound, PathNotFound, BadFileName, PermissionDenied, PathFileAccess (a directory, a pipe,
     /// a device). A missing file is an answer here, so this call never raises.
     virtual qint16 testReading(const QString &path) noexcept = 0;
+
+    /// Opens the file for reading. Raises what testReading answers, and TooManyFiles where no more can be
+    /// open.
+    virtual std::unique_ptr<OpenedFile> openFile(const QString &path) = 0;
 
     /// The first line of the file without its end, at most 64 Ki characters of it; text is UTF-8 where it is
     /// valid, otherwise code page 1252. Raises what testReading answers, and InputPastEnd for an empty file.

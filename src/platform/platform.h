@@ -5,6 +5,7 @@
 #include "platform/environment.h"
 #include "platform/file_system.h"
 #include "platform/programs.h"
+#include "platform/registry.h"
 #include "platform/settings.h"
 
 namespace platform {
@@ -18,6 +19,7 @@ struct Platform
     Programs &programs;
     Dialogs &dialogs;
     Clock &clock;
+    Registry &registry;
 };
 
 } // namespace platform

@@ -23,6 +23,8 @@ QString describe(ErrorNumber number)
         return u"Disk full"_s;
     case ErrorNumber::InputPastEnd:
         return u"Input past end of file"_s;
+    case ErrorNumber::TooManyFiles:
+        return u"Too many files"_s;
     case ErrorNumber::DeviceUnavailable:
         return u"Device unavailable"_s;
     case ErrorNumber::PermissionDenied:

@@ -16,6 +16,7 @@ enum class ErrorNumber : qint16 {
     FileAlreadyExists = 58,
     DiskFull = 61,
     InputPastEnd = 62,
+    TooManyFiles = 67,
     DeviceUnavailable = 68,
     PermissionDenied = 70,
     DiskNotReady = 71,

@@ -5,6 +5,7 @@
 #include "views/menus.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QFileDialog>
 #include <QMainWindow>
 #include <QMessageBox>
@@ -74,7 +75,7 @@ Answer answerOf(int button, Buttons buttons)
 // The lines stay lines; within them nothing can disguise itself.
 QString shownLines(const QString &text)
 {
-    QStringList lines = text.split(u'\n');
+    QStringList lines = QString(text).replace(u"\r\n"_s, u"\n"_s).split(u'\n');
     for (QString &line : lines)
         line = platform::displayText(line);
     return lines.join(u'\n');
@@ -132,6 +133,15 @@ std::optional<QString> MessageBoxes::saveFile(const platform::SaveFileRequest &r
     if (!request.fileName.isEmpty())
         dialog.selectFile(request.fileName);
     return chosenIn(dialog);
+}
+
+std::optional<platform::Colour> MessageBoxes::chooseColour(platform::Colour initial)
+{
+    closeMenus();
+    QColorDialog dialog(QColor::fromRgb(initial), owner());
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.selectedColor().rgb() & platform::White;
 }
 
 // "Text|*.txt|All|*.*" as the list of filters that the desktop's dialog wants; without "|" it is text and

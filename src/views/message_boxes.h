@@ -16,6 +16,7 @@ public:
     platform::Answer message(const platform::MessageBox &box) override;
     std::optional<QString> openFile(const platform::OpenFileRequest &request) override;
     std::optional<QString> saveFile(const platform::SaveFileRequest &request) override;
+    std::optional<platform::Colour> chooseColour(platform::Colour initial) override;
 
 private:
     void setFilters(QFileDialog &dialog, const QString &filter, int index) const;

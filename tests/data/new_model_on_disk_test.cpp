@@ -96,7 +96,8 @@ protected:
     support::RecordingPrograms programs;
     support::RecordingDialogs dialogs;
     support::RecordingClock clock;
-    platform::Platform platform{settings, environment, files, programs, dialogs, clock};
+    support::RecordingRegistry registry;
+    platform::Platform platform{settings, environment, files, programs, dialogs, clock, registry};
     shell::Panel panel{platform};
 };
 

@@ -1,6 +1,7 @@
 #include "memory_file_system.h"
 
 #include "platform/letter_case.h"
+#include "platform/text_decoding.h"
 
 #include <algorithm>
 
@@ -11,6 +12,31 @@ namespace support {
 using platform::ErrorNumber;
 using platform::RuntimeError;
 using platform::UCase;
+
+namespace {
+
+class MemoryFile : public platform::OpenedFile
+{
+public:
+    MemoryFile(QByteArray content, std::function<void(const QString &call)> beforeCall)
+        : content_(std::move(content)), beforeCall_(std::move(beforeCall))
+    {}
+
+    QByteArray read(qsizetype most) override
+    {
+        if (beforeCall_)
+            beforeCall_(u"read"_s);
+        QByteArray result = content_.left(most);
+        content_.remove(0, result.size());
+        return result;
+    }
+
+private:
+    QByteArray content_;
+    std::function<void(const QString &call)> beforeCall_;
+};
+
+} // namespace
 
 MemoryFileSystem::MemoryFileSystem()
 {
@@ -207,6 +233,12 @@ qint16 MemoryFileSystem::testReading(const QString &path) noexcept
     }
 }
 
+std::unique_ptr<platform::OpenedFile> MemoryFileSystem::openFile(const QString &path)
+{
+    announce("openFile");
+    return std::make_unique<MemoryFile>(openable(path).content, beforeCall);
+}
+
 QString MemoryFileSystem::firstLine(const QString &path)
 {
     announce("firstLine");
@@ -215,7 +247,7 @@ QString MemoryFileSystem::firstLine(const QString &path)
         throw RuntimeError(ErrorNumber::InputPastEnd);
     const auto end =
         std::find_if(node.content.begin(), node.content.end(), [](char c) { return c == '\r' || c == '\n'; });
-    return QString::fromUtf8(node.content.left(end - node.content.begin()));
+    return platform::decodeText(node.content.left(end - node.content.begin()));
 }
 
 QString MemoryFileSystem::shortName(const QString &path)

@@ -44,6 +44,7 @@ public:
     std::shared_ptr<const platform::Directory> directory(const QString &path,
                                                          platform::Reading reading) override;
     qint16 testReading(const QString &path) noexcept override;
+    std::unique_ptr<platform::OpenedFile> openFile(const QString &path) override;
     QString firstLine(const QString &path) override;
     QString shortName(const QString &path) override;
     std::optional<platform::FileStamp> stamp(const QString &path) override;

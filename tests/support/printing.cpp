@@ -14,7 +14,7 @@ void PrintTo(const Start &start, std::ostream *out)
     for (const CommandText::Range &range : start.parameters.documents())
         *out << range.from << '+' << range.length << ' ';
     *out << "directory=\"" << start.directory.toStdString() << "\" show=" << static_cast<int>(start.show)
-         << " owner=" << start.owner;
+         << " owner=" << start.owner << " target=" << static_cast<int>(start.target);
 }
 
 void PrintTo(const MessageBox &box, std::ostream *out)

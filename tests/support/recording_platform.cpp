@@ -1,8 +1,12 @@
 #include "recording_platform.h"
 
+#include "platform/runtime_error.h"
+
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
+using platform::ErrorNumber;
+using platform::RuntimeError;
 
 namespace support {
 
@@ -12,6 +16,31 @@ QString address(const QString &application, const QString &section, const QStrin
 {
     return application + u'/' + section + u'/' + key;
 }
+
+class OpenRegistryKey : public platform::RegistryKey
+{
+public:
+    OpenRegistryKey(QMap<QString, platform::RegistryValue> values, QStringList &calls)
+        : values_(std::move(values)), calls_(calls)
+    {}
+    ~OpenRegistryKey() override { calls_.append(u"close"_s); }
+    OpenRegistryKey(const OpenRegistryKey &) = delete;
+    OpenRegistryKey &operator=(const OpenRegistryKey &) = delete;
+
+    platform::RegistryValue value(const QString &name, qsizetype most) override
+    {
+        calls_.append(u"value %1 %2"_s.arg(name).arg(most));
+        if (!values_.contains(name))
+            throw RuntimeError(ErrorNumber::FileNotFound);
+        if (values_[name].data.size() > most)
+            throw RuntimeError(ErrorNumber::InvalidProcedureCall);
+        return values_[name];
+    }
+
+private:
+    QMap<QString, platform::RegistryValue> values_;
+    QStringList &calls_;
+};
 
 // What a user who just presses Enter would answer.
 platform::Answer defaultAnswer(platform::Buttons buttons)
@@ -98,6 +127,18 @@ std::optional<QString> RecordingDialogs::nextChosen()
     return chosen;
 }
 
+std::optional<platform::Colour> RecordingDialogs::chooseColour(platform::Colour initial)
+{
+    shownColours.push_back(initial);
+    if (whileChoosing)
+        whileChoosing();
+    if (chosenColours.empty())
+        return std::nullopt;
+    const auto chosen = chosenColours.front();
+    chosenColours.pop_front();
+    return chosen;
+}
+
 void RecordingClock::letEventsRunUntil(double until)
 {
     const double start = now;
@@ -114,6 +155,23 @@ void RecordingClock::letEventsRunUntil(double until)
 void RecordingClock::duringPause(double after, std::function<void()> event)
 {
     events_.push_back({after, std::move(event)});
+}
+
+std::unique_ptr<platform::RegistryKey> RecordingRegistry::open(platform::RegistryRoot root,
+                                                               const QString &name, quint32 access)
+{
+    calls.append(u"open %1 %2 %3"_s.arg(QString::number(static_cast<quint32>(root), 16), name,
+                                        QString::number(access, 16)));
+    if (root != platform::RegistryRoot::LocalMachine || !keys_.contains(name))
+        throw RuntimeError(ErrorNumber::FileNotFound);
+    if (denied.contains(access))
+        throw RuntimeError(ErrorNumber::PermissionDenied);
+    return std::make_unique<OpenRegistryKey>(keys_[name], calls);
+}
+
+void RecordingRegistry::store(const QString &key, const QString &name, const platform::RegistryValue &value)
+{
+    keys_[key][name] = value;
 }
 
 } // namespace support

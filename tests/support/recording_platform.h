@@ -6,6 +6,7 @@
 #include <QMap>
 
 #include <deque>
+#include <set>
 #include <vector>
 
 namespace support {
@@ -74,12 +75,15 @@ public:
     platform::Answer message(const platform::MessageBox &box) override;
     std::optional<QString> openFile(const platform::OpenFileRequest &request) override;
     std::optional<QString> saveFile(const platform::SaveFileRequest &request) override;
+    std::optional<platform::Colour> chooseColour(platform::Colour initial) override;
 
     std::vector<platform::MessageBox> messages;
     std::vector<platform::OpenFileRequest> requests;
     std::vector<platform::SaveFileRequest> saveRequests;
     std::deque<platform::Answer> answers;
-    std::deque<std::optional<QString>> chosenFiles; ///< for dialogs of both kinds, in their order
+    std::deque<std::optional<QString>> chosenFiles; ///< for file dialogs of both kinds, in their order
+    std::vector<platform::Colour> shownColours;     ///< what each colour dialog showed first
+    std::deque<std::optional<platform::Colour>> chosenColours;
     std::function<void()> whileChoosing;
     std::function<void(const platform::MessageBox &)> whileShown;
 
@@ -111,6 +115,23 @@ private:
     std::deque<Event> events_;
 };
 
+/// A registry in memory. What was asked of it is recorded.
+class RecordingRegistry : public platform::Registry
+{
+public:
+    std::unique_ptr<platform::RegistryKey> open(platform::RegistryRoot root, const QString &name,
+                                                quint32 access) override;
+
+    /// Stores a value under the local machine's root.
+    void store(const QString &key, const QString &name, const platform::RegistryValue &value);
+
+    std::set<quint32> denied; ///< masks that are not granted
+    QStringList calls;        ///< such as "open 80000002 SOFTWARE\\Key 2003f", "value PATH 1024", "close"
+
+private:
+    QMap<QString, QMap<QString, platform::RegistryValue>> keys_;
+};
+
 /// The recording platform: a complete machine in memory that says what was done to it.
 struct RecordingPlatform
 {
@@ -120,7 +141,8 @@ struct RecordingPlatform
     RecordingPrograms programs;
     RecordingDialogs dialogs;
     RecordingClock clock;
-    platform::Platform platform{settings, environment, files, programs, dialogs, clock};
+    RecordingRegistry registry;
+    platform::Platform platform{settings, environment, files, programs, dialogs, clock, registry};
 };
 
 } // namespace support

@@ -78,6 +78,15 @@ const std::vector<Accessory> &accessories()
           {"mpv", ""},
           {"celluloid", ""},
           {"mplayer", ""}}},
+        {"msinfo32.exe",
+         "system-information tool",
+         {{"kinfocenter", "KDE"},
+          {"gnome-system-monitor", "GNOME"},
+          {"mate-system-monitor", "MATE"},
+          {"hardinfo2", ""},
+          {"hardinfo", ""},
+          {"lshw-gtk", ""}}},
+        {"winhlp32.exe", "help viewer", {{"yelp", "GNOME"}, {"khelpcenter", "KDE"}}},
         {"command.com", "terminal", {}},
     };
     return table;

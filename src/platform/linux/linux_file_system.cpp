@@ -14,6 +14,7 @@
 #include <cstdlib>
 #include <memory>
 #include <new>
+#include <utility>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -51,23 +52,16 @@ QByteArray behindLink(const QByteArray &hostPath)
     return path.get();
 }
 
-QByteArray readStart(const FileDescriptor &file, qsizetype most)
+class RegularFile : public OpenedFile
 {
-    QByteArray result(most, Qt::Uninitialized);
-    qsizetype size = 0;
-    while (size < most) {
-        const ssize_t count = ::read(file.get(), result.data() + size, static_cast<size_t>(most - size));
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count < 0)
-            raise(errno);
-        if (count == 0)
-            break;
-        size += count;
-    }
-    result.truncate(size);
-    return result;
-}
+public:
+    explicit RegularFile(FileDescriptor file) : file_(std::move(file)) {}
+
+    QByteArray read(qsizetype most) override { return readFrom(file_, most); }
+
+private:
+    FileDescriptor file_;
+};
 
 // Cuts a line that goes on beyond what was read between two characters.
 QByteArrayView withoutHalfCharacter(QByteArrayView bytes)
@@ -159,9 +153,14 @@ qint16 LinuxFileSystem::testReading(const QString &path) noexcept
     }
 }
 
+std::unique_ptr<OpenedFile> LinuxFileSystem::openFile(const QString &path)
+{
+    return std::make_unique<RegularFile>(openForReading(openable(path)));
+}
+
 QString LinuxFileSystem::firstLine(const QString &path)
 {
-    const QByteArray start = readStart(openForReading(openable(path)), LongestLine);
+    const QByteArray start = readFrom(openForReading(openable(path)), LongestLine);
     if (start.isEmpty() || start.at(0) == '\x1A')
         throw RuntimeError(ErrorNumber::InputPastEnd);
     const qsizetype end = firstLineEnd(start);

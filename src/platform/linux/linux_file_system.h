@@ -25,6 +25,7 @@ public:
     void changeDirectory(const QString &path) override;
     std::shared_ptr<const Directory> directory(const QString &path, Reading reading) override;
     qint16 testReading(const QString &path) noexcept override;
+    std::unique_ptr<OpenedFile> openFile(const QString &path) override;
     QString firstLine(const QString &path) override;
     QString shortName(const QString &path) override;
     std::optional<FileStamp> stamp(const QString &path) override;

@@ -6,6 +6,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace platform::host {
 
@@ -40,6 +41,24 @@ FileDescriptor openForReading(const QByteArray &hostPath)
         raiseForFile(errno);
     requireRegularFile(descriptor.get());
     return descriptor;
+}
+
+QByteArray readFrom(const FileDescriptor &file, qsizetype most)
+{
+    QByteArray result(most, Qt::Uninitialized);
+    qsizetype size = 0;
+    while (size < most) {
+        const ssize_t count = ::read(file.get(), result.data() + size, static_cast<size_t>(most - size));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            raise(errno);
+        if (count == 0)
+            break;
+        size += count;
+    }
+    result.truncate(size);
+    return result;
 }
 
 } // namespace platform::host

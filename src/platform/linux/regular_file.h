@@ -19,4 +19,7 @@ void requireRegularFile(int descriptor);
 /// Opens a regular file for reading. Raises as requireRegularFile does.
 FileDescriptor openForReading(const QByteArray &hostPath);
 
+/// The next `most` bytes of an open file, fewer only at its end. Raises DeviceError and the like.
+QByteArray readFrom(const FileDescriptor &file, qsizetype most);
+
 } // namespace platform::host

@@ -30,6 +30,9 @@ ErrorNumber errorNumber(int systemError)
     case EDQUOT:
     case EFBIG:
         return ErrorNumber::DiskFull;
+    case EMFILE:
+    case ENFILE:
+        return ErrorNumber::TooManyFiles;
     case ENODEV:
     case ENXIO:
     case EHOSTDOWN:
