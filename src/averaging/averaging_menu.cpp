@@ -1,12 +1,88 @@
 #include "averaging/averaging_menu.h"
 
 #include "browser/test_file.h"
+#include "launcher/program_runner.h"
+#include "launcher/starting.h"
+#include "shell/dispatch.h"
 
 using namespace Qt::StringLiterals;
 
 namespace averaging {
 
-void enableAveraging(shell::Panel &panel)
+namespace {
+
+using platform::CommandText;
+
+enum Item { NewAverage, AddTrial, ComputeAverages, SubtractTrial, Help, ProgramOptions };
+
+bool showHelp(Panel &panel)
+{
+    auto [kinovra, frm, platform] = panel.parts();
+
+    const QString text = u"average.txt"_s;
+    kinovra.Answer = browser::TestFile(panel, kinovra.ProgDir, text, browser::ShowMessage);
+    if (kinovra.Answer != 0)
+        return false;
+    kinovra.ViewerFile = kinovra.ProgDir + u'\\' + text;
+    panel.viewer.show();
+    return true;
+}
+
+// False where the user wants to choose another file.
+bool hasBinaryFile(Panel &panel)
+{
+    auto [kinovra, frm, platform] = panel.parts();
+
+    if (!kinovra.BinaryFile.isEmpty())
+        return true;
+    const QString title = u"Binary data file not selected"_s;
+    const platform::Answer answer = shell::MsgBox(
+        panel, {u"No binary data file was selected.  Press Yes to use default (.pj), No to select "
+                "another file or Cancel to quit."_s,
+                platform::Icon::Question, platform::Buttons::YesNoCancel, title});
+    kinovra.TaskId = answer;
+    if (answer == platform::Yes) {
+        kinovra.BinaryFile = kinovra.CurrentTrial + u".pj"_s;
+        return true;
+    }
+    shell::MsgBox(panel, {u"Select binary data file from Binary output listbox."_s, platform::Icon::None,
+                          platform::Buttons::OKOnly, title});
+    frm.filBinaries.Visible = true;
+    frm.lblBinaries.Visible = true;
+    return false;
+}
+
+void runOnBinaryFile(Panel &panel, int index)
+{
+    auto [kinovra, frm, platform] = panel.parts();
+
+    const bool takesDefault = kinovra.BinaryFile.isEmpty();
+    if (!hasBinaryFile(panel))
+        return;
+    const QString chosen = kinovra.BinaryFile;
+    if (index == AddTrial)
+        panel.newAverage.comFilenames.AddItem(chosen);
+    kinovra.ProgName = u"Average"_s;
+    frm.ProgPath = launcher::packageProgram(panel, kinovra.ProgName);
+    frm.Comm = kinovra.ListingSwitch + CommandText(index == SubtractTrial ? "/S " : "")
+               + CommandText::document(chosen);
+    kinovra.Answer = launcher::RunProgram(panel, frm.ProgPath, frm.Comm, 1);
+    if (takesDefault && kinovra.BinaryFile == chosen)
+        sayBinaryFile(panel);
+}
+
+void computeAverages(Panel &panel)
+{
+    const bool wasChosen = !panel.kinovra.BinaryFile.isEmpty();
+    panel.kinovra.BinaryFile.clear();
+    if (wasChosen)
+        sayBinaryFile(panel);
+    panel.newAverage.show();
+}
+
+} // namespace
+
+void enableAveraging(Panel &panel)
 {
     auto [kinovra, frm, platform] = panel.parts();
 
@@ -18,9 +94,37 @@ void enableAveraging(shell::Panel &panel)
     frm.mnuAverage[3].Enabled = hasBinary && hasAverage;
 }
 
-void connect(shell::Panel &panel)
+void mnuAverage_Click(Panel &panel, int index)
 {
-    panel.frm.mnuAverages.Opening = [&panel] { enableAveraging(panel); };
+    switch (index) {
+    case NewAverage:
+        panel.newAverage.show();
+        break;
+    case ComputeAverages:
+        computeAverages(panel);
+        break;
+    case ProgramOptions:
+        // The program's name stays that of the last one, and so does the listing that is offered; that is
+        // meant.
+        panel.kinovra.Answer =
+            launcher::RunProgram(panel, launcher::packageProgram(panel, u"average"_s), u" /?"_s, 1);
+        break;
+    case Help:
+        if (showHelp(panel))
+            break;
+        runOnBinaryFile(panel, index);
+        break;
+    default:
+        runOnBinaryFile(panel, index);
+        break;
+    }
+}
+
+void sayBinaryFile(Panel &panel)
+{
+    const QString &file = panel.kinovra.BinaryFile;
+    shell::sayToo(panel, file.isEmpty() ? u"No binary file is chosen now."_s
+                                        : u"The binary file is %1 now."_s.arg(file));
 }
 
 } // namespace averaging

@@ -4,11 +4,17 @@
 
 namespace averaging {
 
+using shell::Panel;
+
 /// Enables the averaging items by the chosen binary file and the running average "average.sss". Done when the
 /// Average menu opens, and when the Programs menu does.
-void enableAveraging(shell::Panel &panel);
+void enableAveraging(Panel &panel);
 
-/// Hangs the room's handlers on the controls.
-void connect(shell::Panel &panel);
+/// The averaging commands. Help on averaging goes on with adding the trial where its text is missing; that is
+/// meant.
+void mnuAverage_Click(Panel &panel, int index);
+
+/// Says which binary file is chosen now: a command has changed it, and not the user's click.
+void sayBinaryFile(Panel &panel);
 
 } // namespace averaging

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "platform/colour.h"
+
 #include <QProperty>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 
@@ -23,12 +26,81 @@ struct Control
 struct Label : Control
 {
     QProperty<QString> Caption;
+    Event Click; ///< empty for a label that only shows
 };
 
 struct Button : Control
 {
     QProperty<QString> Caption;
     Event Click;
+};
+
+/// A frame around controls that belong together.
+struct Frame : Control
+{
+    QProperty<QString> Caption;
+};
+
+/// A picture.
+struct PictureBox : Control
+{
+    Event Click;
+};
+
+/// A box that is checked or not.
+struct CheckBox : Control
+{
+    QProperty<QString> Caption;
+    QProperty<bool> Value{false};
+};
+
+/// A choice of one among its neighbours.
+struct OptionButton : Control
+{
+    QProperty<QString> Caption;
+    QProperty<bool> Value{false};
+};
+
+/// Sets the option `index` of `options`, and so clears the others.
+template <typename Options>
+void choose(Options &options, std::size_t index)
+{
+    for (std::size_t i = 0; i < options.size(); ++i)
+        options[i].Value = i == index;
+}
+
+/// A text field or page that the user reads. Places and sizes are in twips, the font's size in points.
+struct TextBox : Control
+{
+    QProperty<QString> Text;
+    QProperty<int> Left{0};
+    QProperty<int> Top{0};
+    QProperty<int> Width{0};
+    QProperty<int> Height{0};
+    QProperty<int> FontSize{10};
+    QProperty<bool> FontBold{false};
+    QProperty<platform::Colour> BackColor{platform::White};
+    QProperty<platform::Colour> ForeColor{platform::Black};
+    Event Click;
+};
+
+/// A drop-down list of texts.
+struct ComboBox : Control
+{
+    QProperty<QStringList> Items;
+    QProperty<int> ListIndex{-1}; ///< the selected text, -1 for none
+
+    int ListCount() const { return static_cast<int>(Items.value().size()); }
+
+    /// Adds `text` at the end.
+    void AddItem(const QString &text) { Items = Items.value() + QStringList(text); }
+
+    /// Removes all texts; none is selected.
+    void Clear()
+    {
+        ListIndex = -1;
+        Items = QStringList();
+    }
 };
 
 /// A status bar: panel 1 is the panel's voice, panel 2 shows the version.

@@ -5,19 +5,11 @@
 #include "data/editors.h"
 #include "data/models.h"
 #include "data/new_model.h"
+#include "shell/connect_items.h"
 
 namespace data {
 
-namespace {
-
-template <typename Items>
-void connectItems(Panel &panel, Items &items, void (*click)(Panel &, int))
-{
-    for (int i = 0; i < static_cast<int>(items.size()); ++i)
-        items[static_cast<size_t>(i)].Click = [&panel, click, i] { click(panel, i); };
-}
-
-} // namespace
+using shell::connectItems;
 
 void connect(Panel &panel)
 {

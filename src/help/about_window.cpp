@@ -1,5 +1,9 @@
 #include "help/about_window.h"
 
+#include "help/system_information.h"
+#include "help/updates.h"
+#include "shell/build_values.h"
+
 using namespace Qt::StringLiterals;
 
 namespace help {
@@ -8,39 +12,85 @@ namespace {
 
 constexpr int Escape = 27;
 
-void Form_Load(shell::Panel &panel)
+QString contactLines(const Panel &panel)
 {
-    panel.about.Caption = u"About "_s + QLatin1String(shell::ApplicationTitle);
+    QStringList lines;
+    for (const char16_t *line : shell::build::Contact)
+        lines.append(u"  "_s + QString::fromUtf16(line));
+    lines.append(u"  Email: "_s + QString::fromUtf16(shell::build::ContactEmail));
+    lines.append(u"  "_s + panel.kinovra.WebHome);
+    return lines.join(panel.frm.LineBreak);
 }
 
-void Form_Activate(shell::Panel &panel)
+void showContact(shell::frmAbout &about)
 {
-    panel.about.lblHeader.Caption = panel.kinovra.HeaderText;
+    about.picRell.Visible = about.ContactShown;
+    about.lblRell.Visible = about.ContactShown;
 }
 
-void Form_KeyPress(shell::Panel &panel, int character)
+void setContactShown(shell::frmAbout &about, bool shown)
 {
-    if (character == Escape)
-        panel.about.Visible = false;
+    if (about.ContactShown == shown)
+        return;
+    about.ContactShown = shown;
+    about.Height = about.Height + (shown ? shell::ContactHeight : -shell::ContactHeight);
+    showContact(about);
 }
 
 } // namespace
 
-void showAbout(shell::Panel &panel)
+void Form_Load(Panel &panel)
 {
-    panel.about.Visible = true;
-    if (panel.about.ToFront)
-        panel.about.ToFront();
+    shell::frmAbout &about = panel.about;
+    about.Caption = u"About "_s + QLatin1String(shell::ApplicationTitle);
+    about.Left = (panel.screen.Width - about.Width) / 2;
+    about.Top = (panel.screen.Height - about.Height) / 2;
 }
 
-void connect(shell::Panel &panel)
+void Form_Activate(Panel &panel)
+{
+    panel.about.lblHeader.Caption = panel.kinovra.HeaderText;
+    panel.about.lblRell.Caption = contactLines(panel);
+    showContact(panel.about);
+}
+
+void Form_KeyPress(Panel &panel, int character)
+{
+    if (character == Escape)
+        closeAbout(panel);
+}
+
+void closeAbout(Panel &panel)
+{
+    panel.about.unload();
+    setContactShown(panel.about, false);
+}
+
+void picRell_Click(Panel &panel)
+{
+    panel.about.picRell.Visible = false;
+}
+
+void cmdAuthor_Click(Panel &panel)
+{
+    setContactShown(panel.about, !panel.about.ContactShown);
+}
+
+void connectAboutWindow(Panel &panel)
 {
     shell::frmAbout &about = panel.about;
     about.Load = [&panel] { Form_Load(panel); };
     about.Activate = [&panel] { Form_Activate(panel); };
     about.KeyPress = [&panel](int character) { Form_KeyPress(panel, character); };
-    about.Click = [&panel] { panel.about.Visible = false; };
-    about.Unload = [&panel] { panel.about.Visible = false; };
+    about.Unload = [&panel] { closeAbout(panel); };
+    about.lblAbout.Click = [&panel] { closeAbout(panel); };
+    about.lblRell.Click = [&panel] { closeAbout(panel); };
+    about.picAbout.Click = [&panel] { closeAbout(panel); };
+    about.picRell.Click = [&panel] { picRell_Click(panel); };
+    about.cmdAuthor.Click = [&panel] { cmdAuthor_Click(panel); };
+    about.cmdSysinfo.Click = [&panel] { StartSysInfo(panel); };
+    about.cmdUpgrade.Click = [&panel] { cmdUpgrade_Click(panel); };
+    about.cmdWebsite.Click = [&panel] { cmdWebsite_Click(panel); };
 }
 
 } // namespace help

@@ -39,10 +39,8 @@ void sayIfOlder(Panel &panel, const Run &run)
     const auto now = panel.platform.files.stamp(run.listing());
     if (!now || now != run.listingBefore)
         return;
-    // What was said of the run itself, such as why it did not start, is still worth reading.
-    const QString said = panel.frm.StatusBar1.Panel1;
-    const QString older = u"%1 is from before this run."_s.arg(run.listingName());
-    shell::say(panel, said.isEmpty() ? older : said + u' ' + older);
+    // Beside what was said of the run itself, such as why it did not start.
+    shell::sayToo(panel, u"%1 is from before this run."_s.arg(run.listingName()));
 }
 
 bool userWantsListing(Panel &panel, const Run &run)

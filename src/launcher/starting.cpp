@@ -12,23 +12,40 @@ namespace launcher {
 namespace {
 
 using platform::Ending;
+using platform::Target;
 using shell::RunningProgram;
+
+// As the user knows it.
+QString nameOf(const platform::Start &request)
+{
+    if (!request.file.isEmpty())
+        return platform::nameOf(request.file);
+    const QString &directory = request.directory;
+    return platform::nameOf(directory.endsWith(u'\\') ? directory.chopped(1) : directory);
+}
 
 double start(Panel &panel, const platform::Start &request)
 {
     const platform::StartResult result = panel.platform.programs.start(request);
-    const QString name = platform::nameOf(request.file);
+    const QString name = nameOf(request);
+    const bool isProgram = request.target == Target::Program;
     if (result.failure.isEmpty()) {
-        panel.running.push_back({result.value, name, QString(), std::nullopt});
+        panel.running.push_back({result.value, name, isProgram, QString(), std::nullopt});
         shell::say(panel, QString());
     } else {
-        shell::say(panel, u"%1 was not started: %2."_s.arg(name, result.failure));
+        shell::say(panel, (isProgram ? u"%1 was not started: %2."_s : u"%1 was not opened: %2."_s)
+                              .arg(name, result.failure));
     }
     return result.value;
 }
 
 QString endingText(const RunningProgram &program, const Ending &ending)
 {
+    // What opens a document may hand it on and end; only that it could not is worth telling.
+    if (!program.isProgram)
+        return ending.kind == Ending::Kind::Exited && ending.code == 0
+                   ? QString()
+                   : u"%1 could not be opened."_s.arg(program.name);
     if (ending.kind == Ending::Kind::Crashed)
         return u"%1 was stopped by an error (signal %2)."_s.arg(program.name, QString::number(ending.code));
     if (ending.kind == Ending::Kind::TerminalFailed)
@@ -73,6 +90,26 @@ double openInTextViewer(Panel &panel, const QString &document, const QString &di
                          .show = show,
                          .owner = panel.kinovra.MainWindowHandle,
                          .isViewer = true});
+}
+
+double openDocument(Panel &panel, const QString &name, const QString &directory)
+{
+    return start(panel, {.verb = u"open"_s,
+                         .file = name,
+                         .directory = directory,
+                         .show = platform::Show::Normal,
+                         .owner = panel.kinovra.MainWindowHandle,
+                         .target = Target::Document});
+}
+
+double openAddress(Panel &panel, const QString &address, const QString &directory)
+{
+    return start(panel, {.verb = u"Open"_s,
+                         .file = address,
+                         .directory = directory,
+                         .show = platform::Show::Shown,
+                         .owner = panel.kinovra.MainWindowHandle,
+                         .target = Target::Address});
 }
 
 double startDirectly(Panel &panel, const QString &program, const CommandText &parameters, platform::Show show)

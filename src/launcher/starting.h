@@ -19,6 +19,14 @@ double openWithSystem(Panel &panel, const QString &file, const CommandText &para
 /// `directory`. The result is that of openWithSystem.
 double openInTextViewer(Panel &panel, const QString &document, const QString &directory, platform::Show show);
 
+/// Asks the operating system to open the document `name` of `directory`, which is looked for nowhere else; an
+/// empty name is that directory itself. The result is that of openWithSystem.
+double openDocument(Panel &panel, const QString &name, const QString &directory);
+
+/// Asks the operating system to open the web address `address`, with `directory` as the working directory.
+/// The result is that of openWithSystem.
+double openAddress(Panel &panel, const QString &address, const QString &directory);
+
 /// Whether the value of an "open" means that it succeeded.
 constexpr bool isStarted(double value)
 {

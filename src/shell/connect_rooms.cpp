@@ -1,12 +1,13 @@
 #include "shell/connect_rooms.h"
 
-#include "averaging/averaging_menu.h"
+#include "averaging/connect_averaging.h"
 #include "browser/directories.h"
 #include "data/connect_data.h"
 #include "graphs/graph_types.h"
-#include "help/about_window.h"
+#include "help/connect_help.h"
 #include "launcher/programs_menu.h"
 #include "shell/window_events.h"
+#include "viewer/text_viewer.h"
 
 namespace shell {
 
@@ -19,6 +20,7 @@ void connectRooms(Panel &panel)
     averaging::connect(panel);
     graphs::connect(panel);
     help::connect(panel);
+    viewer::connect(panel);
 }
 
 } // namespace shell

@@ -88,9 +88,22 @@ std::optional<QString> askForNewFile(Panel &panel, const platform::SaveFileReque
     return chosen;
 }
 
+std::optional<platform::Colour> askForColour(Panel &panel, platform::Colour initial)
+{
+    auto chosen = panel.platform.dialogs.chooseColour(initial);
+    goOn(panel);
+    return chosen;
+}
+
 void say(Panel &panel, const QString &text)
 {
     panel.frm.StatusBar1.Panel1 = text;
+}
+
+void sayToo(Panel &panel, const QString &text)
+{
+    const QString said = panel.frm.StatusBar1.Panel1;
+    say(panel, said.isEmpty() ? text : said + u' ' + text);
 }
 
 } // namespace shell

@@ -31,10 +31,17 @@ std::optional<QString> askForFile(Panel &panel, const platform::OpenFileRequest 
 /// Lets the user name a file to be written; nothing when the dialog was cancelled. Raises as askForFile does.
 std::optional<QString> askForNewFile(Panel &panel, const platform::SaveFileRequest &request);
 
+/// Lets the user choose a colour, `initial` being shown first; nothing when the dialog was cancelled. Raises
+/// as askForFile does.
+std::optional<platform::Colour> askForColour(Panel &panel, platform::Colour initial);
+
 /// Shows a message box and gives its answer. Raises Unloaded when the main window is closed meanwhile.
 platform::Answer MsgBox(Panel &panel, const platform::MessageBox &box);
 
 /// Says `text` in the status bar's first panel: it never interrupts and takes no answer.
 void say(Panel &panel, const QString &text);
+
+/// The same beside what is said already, which is still worth reading.
+void sayToo(Panel &panel, const QString &text);
 
 } // namespace shell

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <array>
+
 namespace shell {
 
 /// The application's title: that of the main window, and of every message box without one of its own.
@@ -32,7 +34,10 @@ struct Kinovra
     QString HeaderText;          ///< banner that the about window shows
     QString WebHome;             ///< address of the package's home page
     qint64 MainWindowHandle = 0; ///< owner of the requests to the operating system
-    QString ViewerFile;          ///< what the text viewer shows next
+    /// What the text viewer shows next: a full path, "0" for nothing, "1" to "10" for a how-to topic.
+    QString ViewerFile;
+    std::array<QString, 11> HowToText; ///< texts of the how-to topics, from 1
+    QString ManualFile;                ///< name of the manual last opened; empty for their folder
 };
 
 } // namespace shell

@@ -3,8 +3,10 @@
 #include "controls/window.h"
 #include "platform/platform.h"
 #include "shell/about_window.h"
+#include "shell/average_window.h"
 #include "shell/kinovra.h"
 #include "shell/main_window.h"
+#include "shell/viewer_window.h"
 
 #include <vector>
 
@@ -15,6 +17,7 @@ struct RunningProgram
 {
     double value;    ///< what its start gave
     QString name;    ///< as the user knows it, such as "KINEMATI"
+    bool isProgram;  ///< the user started it, and not a document that it opens
     QString listing; ///< full path of the listing it may write; empty for none
     std::optional<platform::FileStamp> listingBefore; ///< the listing at the moment of the start
 };
@@ -27,6 +30,8 @@ struct Panel
     Kinovra kinovra;
     frmKinovra frm;
     frmAbout about;
+    frmViewer viewer;
+    frmNewAverage newAverage;
     controls::Screen screen;
     std::vector<RunningProgram> running;
     bool unloading = false; ///< the main window has been closed: every waiting handler ends silently

@@ -216,7 +216,7 @@ QString versionText(int major, int minor, int build)
 
 void ShowSplash(Panel &panel, int seconds)
 {
-    panel.about.Visible = true;
+    panel.about.show();
     panel.frm.Visible = true;
     pause(panel, seconds);
     panel.about.Visible = false;

@@ -1,7 +1,7 @@
 #include "shell/window_events.h"
 
 #include "browser/file_lists.h"
-#include "help/about_window.h"
+#include "help/help_menu.h"
 #include "shell/shut_down.h"
 #include "shell/start_up.h"
 

@@ -44,7 +44,6 @@ AboutWindow::AboutWindow(EventRunner &events, QWidget *mainWindow)
             activateWindow();
         }
     };
-    events_.run(about_.Load);
 }
 
 // It appears after the main window where both are shown at once, so that it lies above it.
@@ -78,7 +77,7 @@ void AboutWindow::keyPressEvent(QKeyEvent *event)
 void AboutWindow::mouseReleaseEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton)
-        events_.run(about_.Click);
+        events_.run(about_.picAbout.Click);
 }
 
 } // namespace views

@@ -115,14 +115,14 @@ TEST_F(RunProgramTest, opens_the_listing_in_the_text_viewer_on_yes)
     machine.dialogs.answers = {platform::Yes};
     machine.programs.openValue = 77;
     EXPECT_EQ(run(), 0);
-    const Start viewer{u"open"_s,
-                       u"C:\\TOOLS\\Edit.exe"_s,
-                       CommandText::document(u"C:\\DATA\\Kinemati.out"_s),
-                       u"C:\\DATA"_s,
-                       Show::Shown,
-                       4711,
-                       true};
-    EXPECT_THAT(machine.programs.started, ElementsAre(started, viewer));
+    const Start inViewer{u"open"_s,
+                         u"C:\\TOOLS\\Edit.exe"_s,
+                         CommandText::document(u"C:\\DATA\\Kinemati.out"_s),
+                         u"C:\\DATA"_s,
+                         Show::Shown,
+                         4711,
+                         true};
+    EXPECT_THAT(machine.programs.started, ElementsAre(started, inViewer));
     EXPECT_EQ(kinovra.TaskId, 77);
     EXPECT_EQ(kinovra.SelectedFile, u"C:\\DATA\\Kinemati.out"_s);
     EXPECT_EQ(frm.dlgOpen.InitDir, u"C:\\DATA"_s);

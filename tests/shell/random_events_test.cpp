@@ -24,6 +24,7 @@ constexpr ErrorNumber Failures[]{
     ErrorNumber::FileAlreadyOpen,      ErrorNumber::DeviceError,       ErrorNumber::DiskFull,
     ErrorNumber::InputPastEnd,         ErrorNumber::DeviceUnavailable, ErrorNumber::PermissionDenied,
     ErrorNumber::DiskNotReady,         ErrorNumber::PathFileAccess,    ErrorNumber::PathNotFound,
+    ErrorNumber::TooManyFiles,
 };
 
 constexpr const char *Directories[]{"C:\\DATA",  "C:\\DATA\\SUB", "C:\\One Model",
@@ -112,6 +113,7 @@ protected:
             if (item.Opening)
                 events.emplace_back([this, &item] { openMenu(item); });
         }
+        collectEventsOfOtherWindows();
         events.emplace_back([this] { chooseDrive(); });
         events.emplace_back([this] { openSomeRow(); });
         events.emplace_back([this] { changeFiles(); });
@@ -123,6 +125,51 @@ protected:
         events.emplace_back([this] { endSomeProgram(); });
         events.emplace_back([this] { planEventDuringPause(); });
         events.emplace_back([this] { changeMachine(); });
+    }
+
+    void collectEventsOfOtherWindows()
+    {
+        for (auto *button :
+             {&about.cmdSysinfo, &about.cmdUpgrade, &about.cmdWebsite, &about.cmdAuthor, &newAverage.cmdOK,
+              &newAverage.cmdAverage, &newAverage.cmdDefault, &newAverage.cmdHelp, &newAverage.cmdCancel})
+            events.emplace_back([this, button] { click(*button); });
+        for (auto *label : {&about.lblAbout, &about.lblRell})
+            events.emplace_back([this, label] { shell::dispatch(panel, label->Click); });
+        for (auto *picture : {&about.picAbout, &about.picRell})
+            events.emplace_back([this, picture] { shell::dispatch(panel, picture->Click); });
+        for (auto &item : viewer.mnuColours)
+            events.emplace_back([this, &item] { chooseColour(item); });
+        for (auto &item : viewer.mnuFontSizesItem)
+            events.emplace_back([this, &item] { click(item); });
+        for (auto *item : {&viewer.mnuOpen, &viewer.mnuExit})
+            events.emplace_back([this, item] { click(*item); });
+        for (controls::Window *window :
+             std::initializer_list<controls::Window *>{&about, &viewer, &newAverage}) {
+            events.emplace_back([this, window] { comeBack(*window); });
+            events.emplace_back([this, window] { shell::dispatch(panel, window->Unload); });
+        }
+        events.emplace_back([this] {
+            viewer.Width = pick(30000);
+            viewer.Height = pick(30000);
+            shell::dispatch(panel, viewer.Resize);
+        });
+        events.emplace_back([this] { shell::dispatch(panel, newAverage.txtBinary.Click); });
+        events.emplace_back([this] { chooseOptions(); });
+    }
+
+    void chooseColour(const controls::MenuItem &item)
+    {
+        machine.dialogs.chosenColours.clear();
+        if (!oneIn(3))
+            machine.dialogs.chosenColours = {static_cast<platform::Colour>(pick(3))};
+        click(item);
+    }
+
+    void chooseOptions()
+    {
+        newAverage.chkAVall.Value = oneIn(2);
+        newAverage.chkAVrow.Value = oneIn(2);
+        controls::choose(newAverage.optCI, random() % 5);
     }
 
     void useList(controls::FileList &list)
@@ -246,6 +293,8 @@ protected:
                 {u"ProgName"_s, kinovra.ProgName},
                 {u"TaskId"_s, QString::number(kinovra.TaskId)},
                 {u"Answer"_s, QString::number(kinovra.Answer)},
+                {u"ViewerFile"_s, kinovra.ViewerFile},
+                {u"ManualFile"_s, kinovra.ManualFile},
                 {u"CurrentGRA"_s, frm.CurrentGRA},
                 {u"SelectedPlot"_s, frm.SelectedPlot},
                 {u"ProgPath"_s, frm.ProgPath},
@@ -285,6 +334,13 @@ protected:
             {R"(Error opening file: "C:\KINOVRA\SKELVO.EXE")",
              {u"ProgName"_s, u"ProgPath"_s, u"SelectedFile"_s, u"Answer"_s}},
             {R"(Error opening file: "C:\DATA\)", {u"Answer"_s, u"TaskId"_s}},
+            {"Error trying to open file.  It may be already opened.",
+             {u"ViewerFile"_s, u"Answer"_s, u"SelectedFile"_s}},
+            {"Error finding file.", {u"ViewerFile"_s, u"Answer"_s, u"SelectedFile"_s}},
+            {"To change the input data file press the Cancel button and", {}},
+            {"System information is unavailable at this time.", {}},
+            {"The current version of ", {u"TaskId"_s}},
+            {R"(Error opening file: "C:\KINOVRA\WORK.TXT")", {u"ViewerFile"_s, u"Answer"_s}},
         };
         const auto &messages = machine.dialogs.messages;
         if (messages.size() != 1 || inPause)
@@ -305,12 +361,24 @@ protected:
         }
     }
 
+    // Only an update ends the program here.
+    void startAgain()
+    {
+        ASSERT_FALSE(messages().isEmpty());
+        EXPECT_TRUE(messages().join(u' ').contains(u"To use the new version you must exit and reload "));
+        panel.unloading = false;
+        machine.environment.ended = false;
+        ++endings;
+    }
+
     void checkInvariants()
     {
         EXPECT_FALSE(kinovra.DataDir.endsWith(u'\\')) << kinovra.DataDir.toStdString();
         EXPECT_FALSE(kinovra.DataDir.isEmpty());
         EXPECT_EQ(kinovra.ProgDir, u"C:\\KINOVRA"_s);
-        EXPECT_FALSE(panel.unloading);
+        EXPECT_EQ(panel.unloading, machine.environment.ended);
+        if (panel.unloading)
+            startAgain();
         EXPECT_EQ(frm.Width.value(), 10100);
         for (const auto *list : {&frm.filDatafiles, &frm.filModels, &frm.filBinaries, &frm.filOutputs,
                                  &frm.filPlots, &frm.filGraFiles}) {
@@ -319,7 +387,10 @@ protected:
         EXPECT_LT(frm.dirSelect.ListIndex.value(), frm.dirSelect.RowCount());
         EXPECT_NE(frm.filGraFiles.Visible.value(), frm.cmdGraph.Visible.value());
         for (const auto &start : machine.programs.started)
-            EXPECT_FALSE(start.directory.isEmpty());
+            EXPECT_EQ(start.directory.isEmpty(), start.file == kinovra.WebHome);
+        EXPECT_NE(viewer.txtViewer.BackColor.value(), viewer.txtViewer.ForeColor.value());
+        EXPECT_EQ(about.Height.value(), aboutHeight + (about.ContactShown ? 3000 : 0));
+        EXPECT_FALSE(newAverage.isRunning);
     }
 
     std::mt19937 random;
@@ -327,6 +398,8 @@ protected:
     bool failing = false;
     bool inPause = false;
     platform::Answer lastAnswer = platform::OK;
+    const int aboutHeight = about.Height;
+    int endings = 0;
     int refusalsChecked = 0;
     QSet<QString> checked; ///< the refusals that have come up
 };
@@ -347,6 +420,7 @@ TEST_F(RandomEvents, never_break_the_panel)
         forget();
     }
     EXPECT_GT(refusalsChecked, 1000);
-    EXPECT_GT(checked.size(), 20);
+    EXPECT_GT(checked.size(), 23);
+    EXPECT_GT(endings, 100);
     EXPECT_EQ(machine.settings.readKeys.size(), 6) << "settings are read at the start only";
 }

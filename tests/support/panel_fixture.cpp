@@ -28,6 +28,9 @@ PanelFixture::PanelFixture()
     panel.screen = {1024 * 15, 768 * 15};
     frm.hWnd = 4711;
     shell::connectRooms(panel);
+    // What a view does where a window is shown.
+    for (controls::Window *window : std::initializer_list<controls::Window *>{&about, &viewer, &newAverage})
+        window->ToFront = [this, window] { shell::dispatch(panel, window->Activate); };
 }
 
 void PanelFixture::start(const QString &commandLine)
@@ -90,10 +93,17 @@ void PanelFixture::openMenu(const controls::MenuItem &menu)
     shell::dispatch(panel, menu.Opening);
 }
 
+void PanelFixture::comeBack(const controls::Window &window)
+{
+    shell::dispatch(panel, window.Activate);
+}
+
 void PanelFixture::mark()
 {
     kinovra.ProgName = u"(before)"_s;
     kinovra.SelectedFile = u"(before)"_s;
+    kinovra.ViewerFile = u"(before)"_s;
+    kinovra.ManualFile = u"(before)"_s;
     kinovra.TaskId = -1;
     kinovra.Answer = -1;
     frm.ProgPath = u"(before)"_s;
@@ -107,6 +117,8 @@ void PanelFixture::expectMarkedBut(const QStringList &changed)
     const std::pair<const char *, bool> marked[]{
         {"ProgName", kinovra.ProgName == u"(before)"},
         {"SelectedFile", kinovra.SelectedFile == u"(before)"},
+        {"ViewerFile", kinovra.ViewerFile == u"(before)"},
+        {"ManualFile", kinovra.ManualFile == u"(before)"},
         {"TaskId", kinovra.TaskId == -1},
         {"Answer", kinovra.Answer == -1},
         {"ProgPath", frm.ProgPath == u"(before)"},
@@ -136,6 +148,8 @@ void PanelFixture::forget()
     machine.dialogs.messages.clear();
     machine.dialogs.requests.clear();
     machine.dialogs.saveRequests.clear();
+    machine.dialogs.shownColours.clear();
+    machine.registry.calls.clear();
     machine.programs.started.clear();
     machine.settings.written.clear();
     machine.clock.pauses.clear();

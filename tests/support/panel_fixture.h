@@ -64,6 +64,9 @@ protected:
         return result;
     }
 
+    /// The window comes back from another one.
+    void comeBack(const controls::Window &window);
+
     /// Forgets messages, dialogs, starts, settings written and pauses.
     void forget();
 
@@ -74,6 +77,9 @@ protected:
     shell::Panel panel{machine.platform};
     shell::Kinovra &kinovra = panel.kinovra;
     shell::frmKinovra &frm = panel.frm;
+    shell::frmAbout &about = panel.about;
+    shell::frmViewer &viewer = panel.viewer;
+    shell::frmNewAverage &newAverage = panel.newAverage;
 };
 
 } // namespace support

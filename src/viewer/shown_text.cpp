@@ -1,0 +1,69 @@
+#include "viewer/shown_text.h"
+
+namespace viewer {
+
+namespace {
+
+constexpr char16_t FormFeed = 0x0C;
+constexpr char16_t NextLine = 0x85;
+constexpr char16_t LineSeparator = 0x2028;
+constexpr char16_t ParagraphSeparator = 0x2029;
+constexpr char16_t Delete = 0x7F;
+constexpr char16_t ControlPictures = 0x2400;
+constexpr char16_t PictureOfDelete = 0x2421;
+
+bool endsLine(char16_t unit)
+{
+    // A vertical tab as well: printers took it for a line feed.
+    return unit == u'\n' || unit == u'\v' || unit == NextLine || unit == LineSeparator
+           || unit == ParagraphSeparator;
+}
+
+char16_t picture(char16_t unit)
+{
+    if (unit < 0x20 && unit != u'\t')
+        return char16_t(ControlPictures + unit);
+    if (unit == Delete)
+        return PictureOfDelete;
+    return unit >= 0x80 && unit <= 0x9F ? char16_t(QChar::ReplacementCharacter) : unit;
+}
+
+// A carriage return that ends no line: in front of the line feed, of another one in front of it (files that
+// were converted twice), and at the end of the text.
+bool isLeftOver(const QString &text, qsizetype at)
+{
+    qsizetype next = at + 1;
+    while (next < text.size() && text.at(next) == u'\r')
+        ++next;
+    return next < text.size() ? text.at(next) == u'\n' : at + 1 == text.size();
+}
+
+} // namespace
+
+QString shownText(const QString &text)
+{
+    QString result(text.size(), Qt::Uninitialized);
+    QChar *const begin = result.data();
+    QChar *out = begin;
+    const qsizetype size = text.size();
+    const auto unitAt = [&text, size](qsizetype i) { return i < size ? text.at(i).unicode() : char16_t(0); };
+    for (qsizetype i = 0; i < size; ++i) {
+        const char16_t unit = text.at(i).unicode();
+        if (unit == u'\r') {
+            if (!isLeftOver(text, i))
+                *out++ = u'\n';
+        } else if (endsLine(unit)) {
+            *out++ = u'\n';
+        } else if (unit == FormFeed) {
+            const bool isInLine = out != begin && out[-1] != u'\n';
+            if (isInLine && unitAt(i + 1) != u'\r' && !endsLine(unitAt(i + 1)))
+                *out++ = u'\n';
+        } else {
+            *out++ = picture(unit);
+        }
+    }
+    result.truncate(out - begin);
+    return result;
+}
+
+} // namespace viewer
