@@ -10,6 +10,9 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
+
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 using platform::FileSystem;
@@ -28,6 +31,9 @@ public:
     virtual void makeDirectory(const QString &name) = 0;
     virtual void makeFile(const QString &name, const QByteArray &content) = 0;
     virtual void makeHidden(const QString &name) = 0;
+    virtual void makePipe(const QString &name) = 0;
+    /// Keeps the user from reading a file; the last thing that a test prepares.
+    virtual void forbid(const QString &name) = 0;
     virtual void remove(const QString &name) = 0;
     /// What the file holds; "(none)" where there is no such file by exactly this name.
     virtual QByteArray content(const QString &name) = 0;
@@ -48,6 +54,15 @@ public:
     {
         files_.addFile(path(u'.' + name));
         files_.hide(path(u'.' + name));
+    }
+    void makePipe(const QString &name) override
+    {
+        files_.addFile(path(name));
+        files_.forbid(path(name), platform::ErrorNumber::PathFileAccess);
+    }
+    void forbid(const QString &name) override
+    {
+        files_.forbid(path(name), platform::ErrorNumber::PermissionDenied);
     }
     void remove(const QString &name) override { files_.remove(path(name)); }
     QByteArray content(const QString &name) override
@@ -70,9 +85,15 @@ public:
     void makeDirectory(const QString &name) override { scratch_.makeDirectory(name.toUtf8()); }
     void makeFile(const QString &name, const QByteArray &content) override
     {
-        scratch_.makeFile(name.toUtf8(), content);
+        scratch_.makeFile(name.toUtf8().replace('\\', '/'), content);
     }
     void makeHidden(const QString &name) override { scratch_.makeFile('.' + name.toUtf8()); }
+    void makePipe(const QString &name) override { scratch_.makePipe(name.toUtf8()); }
+    void forbid(const QString &name) override
+    {
+        ::chmod(scratch_.path(name.toUtf8()).constData(), 0);
+        nobody_.emplace();
+    }
     void remove(const QString &name) override { scratch_.remove(name.toUtf8()); }
     QByteArray content(const QString &name) override
     {
@@ -83,6 +104,7 @@ private:
     support::ScratchDirectory scratch_{"Some Place"};
     platform::host::LinuxFileSystem files_{QByteArray()};
     QString base_;
+    std::optional<support::WithoutPrivileges> nobody_;
 };
 
 template <typename Made>
@@ -132,6 +154,105 @@ TEST_P(FileSystemContract, says_why_a_file_cannot_be_opened)
     EXPECT_EQ(files.testReading(at(u"C:\\x.exe"_s)), 52);
     EXPECT_EQ(files.testReading(u"Q:\\x.exe"_s), 68);
     EXPECT_EQ(files.testReading(u"\\\\server\\share\\x.exe"_s), 76);
+}
+
+TEST_P(FileSystemContract, takes_many_separators_for_one)
+{
+    world->makeDirectory(u"Manuals"_s);
+    world->makeFile(u"Manuals\\Kinovra.Pdf"_s, "manual");
+    for (const QString &name :
+         {u"Manuals\\\\Kinovra.Pdf"_s, u"MANUALS\\\\KINOVRA.PDF"_s, u"MANUALS\\\\\\KINOVRA.PDF"_s,
+          u"\\Manuals\\Kinovra.Pdf"_s, u"\\\\manuals\\\\\\\\kinovra.pdf"_s}) {
+        EXPECT_EQ(files.testReading(at(name)), 0) << name.toStdString();
+        // The same directory right before it, as a menu that tests many files asks for it.
+        EXPECT_EQ(files.testReading(at(u"Manuals\\Kinovra.Pdf"_s)), 0) << name.toStdString();
+        EXPECT_EQ(files.testReading(at(name)), 0) << name.toStdString();
+        EXPECT_EQ(files.openFile(at(name))->read(10), "manual") << name.toStdString();
+        EXPECT_EQ(files.testReading(at(name) + u".txt"_s), 53) << name.toStdString();
+    }
+    files.directory(at(u"Manuals"_s), Reading::WhenChanged);
+    EXPECT_EQ(files.testReading(at(u"Manuals"_s) + u'\\' + u"\\kinovra.pdf"_s), 0);
+    EXPECT_EQ(files.testReading(at(u"MANUALS\\"_s) + u'\\' + u"\\KINOVRA.PDF"_s), 0);
+    EXPECT_EQ(files.testReading(at(u"MANUALS\\"_s) + u'\\' + u"\\OTHER.PDF"_s), 53);
+    EXPECT_EQ(files.testReading(at(u"NOWHERE\\"_s) + u'\\' + u"\\KINOVRA.PDF"_s), 76);
+}
+
+TEST_P(FileSystemContract, reads_an_opened_file_in_pieces)
+{
+    world->makeFile(u"About.Txt"_s, "0123456789");
+    const auto file = files.openFile(at(u"About.Txt"_s));
+    EXPECT_EQ(file->read(0), "");
+    EXPECT_EQ(file->read(4), "0123");
+    // Another one has a place of its own.
+    const auto second = files.openFile(at(u"ABOUT.TXT"_s));
+    EXPECT_EQ(second->read(1), "0");
+    EXPECT_EQ(file->read(4), "4567");
+    EXPECT_EQ(file->read(4), "89");
+    EXPECT_EQ(file->read(4), "") << "beyond the end";
+    EXPECT_EQ(file->read(4), "");
+    EXPECT_EQ(second->read(100), "123456789");
+}
+
+TEST_P(FileSystemContract, reads_every_byte_of_an_opened_file)
+{
+    const QByteArray content = QByteArray("a\r\n\0\x1A\xFF", 6).repeated(50'000);
+    world->makeFile(u"about.txt"_s, content);
+    EXPECT_EQ(files.openFile(at(u"about.txt"_s))->read(1'000'000), content);
+    world->makeFile(u"empty.txt"_s, QByteArray());
+    EXPECT_EQ(files.openFile(at(u"empty.txt"_s))->read(1), "");
+}
+
+TEST_P(FileSystemContract, opens_a_file_for_reading_without_regard_to_case)
+{
+    world->makeFile(u"Über uns.Txt"_s, "text");
+    for (const QString &name : {u"Über uns.Txt"_s, u"ÜBER UNS.TXT"_s, u"über uns.txt"_s}) {
+        EXPECT_EQ(files.openFile(at(name))->read(10), "text") << name.toStdString();
+        EXPECT_EQ(files.openFile(at(name).toUpper())->read(10), "text") << name.toStdString();
+    }
+    files.directory(world->base(), Reading::WhenChanged);
+    EXPECT_EQ(files.openFile(at(u"ÜBER UNS.TXT"_s))->read(10), "text");
+}
+
+TEST_P(FileSystemContract, raises_where_a_file_cannot_be_opened_for_reading)
+{
+    world->makeDirectory(u"folder"_s);
+    world->makePipe(u"pipe"_s);
+    world->makeFile(u"noise"_s, "x");
+    const auto open = [&](const QString &path) { return errorOf([&] { files.openFile(path); }); };
+    EXPECT_EQ(open(at(u"missing.txt"_s)), 53);
+    EXPECT_EQ(open(at(u"NOISE.EXE"_s)), 53) << "no program";
+    EXPECT_EQ(open(at(u"nowhere\\missing.txt"_s)), 76);
+    EXPECT_EQ(open(at(u"folder"_s)), 75);
+    EXPECT_EQ(open(world->base() + u'\\'), 75);
+    EXPECT_EQ(open(at(u"pipe"_s)), 75);
+    EXPECT_EQ(open(at(u"C:\\x.txt"_s)), 52);
+    EXPECT_EQ(open(u"Q:\\x.txt"_s), 68);
+    EXPECT_EQ(open(u"\\\\server\\share\\x.txt"_s), 76);
+    EXPECT_EQ(open(QString()), 76);
+}
+
+TEST_P(FileSystemContract, raises_where_a_file_may_not_be_read)
+{
+    world->makeFile(u"secret.txt"_s, "x");
+    world->forbid(u"secret.txt"_s);
+    EXPECT_EQ(errorOf([&] { files.openFile(at(u"secret.txt"_s)); }), 70);
+    EXPECT_EQ(errorOf([&] { files.openFile(at(u"SECRET.TXT"_s)); }), 70);
+}
+
+TEST_P(FileSystemContract, goes_on_reading_a_file_that_is_changed_meanwhile)
+{
+    for (const QByteArray &changed : {QByteArray("x"), QByteArray("longer than it was"), QByteArray()}) {
+        world->makeFile(u"about.txt"_s, "0123456789");
+        const auto file = files.openFile(at(u"about.txt"_s));
+        EXPECT_EQ(file->read(4), "0123");
+        world->makeFile(u"about.txt"_s, changed);
+        EXPECT_EQ(errorOf([&] { file->read(100); }), 0);
+        EXPECT_EQ(file->read(100), "");
+    }
+    world->makeFile(u"about.txt"_s, "0123456789");
+    const auto file = files.openFile(at(u"about.txt"_s));
+    world->remove(u"about.txt"_s);
+    EXPECT_EQ(file->read(100), "0123456789") << "it is there for those who have opened it";
 }
 
 TEST_P(FileSystemContract, notices_files_that_come_and_go)

@@ -54,6 +54,14 @@ bool namesProgram(QStringView path)
     return path.size() > 4 && path[path.size() - 4] == u'.' && sameIgnoringCase(path.last(3), u"exe");
 }
 
+// A directory that cannot be listed may still be passed through by an exact name. Where no more files can be
+// open, though, nothing is known of what it holds.
+void requireDescriptors(const RuntimeError &error)
+{
+    if (error.Number == static_cast<qint16>(ErrorNumber::TooManyFiles))
+        throw error;
+}
+
 // The host's root may be written as an empty path, to which names are joined.
 QByteArray joined(const QByteArray &hostDirectory, const QString &name)
 {
@@ -120,7 +128,8 @@ std::shared_ptr<PathLookup::Reading> PathLookup::usedDirectory(QStringView direc
     try {
         lastReading_ = listing(path.at(0), *remembered);
         lastDirectory_ = path;
-    } catch (const RuntimeError &) {
+    } catch (const RuntimeError &error) {
+        requireDescriptors(error);
         // Gone, or not to be listed: the long way may still find the file.
     }
     return lastReading_;
@@ -220,8 +229,8 @@ QByteArray PathLookup::findBelow(QChar drive, QByteArray hostDirectory, const QS
         QString spelled;
         try {
             spelled = listing(drive, hostDirectory)->read.directory->find(name);
-        } catch (const RuntimeError &) {
-            // A directory that cannot be listed may still be passed through by the exact name.
+        } catch (const RuntimeError &error) {
+            requireDescriptors(error);
             spelled = name;
         }
         if (spelled.isNull())

@@ -23,7 +23,8 @@ public:
 
     /// The host's path of the directory (or whatever else) called `path`: the path as it stands first, then
     /// the spelling in which the panel has used it, then each name against the folded index of its directory.
-    /// Nothing where there is no such thing. Raises PermissionDenied where that cannot be known.
+    /// Nothing where there is no such thing. Raises PermissionDenied and TooManyFiles where that cannot be
+    /// known.
     std::optional<QByteArray> find(const QString &path);
 
     /// The host's path of a file, and where there is none, what is missing.

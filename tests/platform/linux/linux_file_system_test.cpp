@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -18,9 +19,42 @@ using platform::Reading;
 using platform::Replacing;
 using platform::host::LinuxFileSystem;
 
+namespace {
+
+/// Lets nothing more be opened while it lives; what is open stays so.
+class WithoutDescriptors
+{
+public:
+    WithoutDescriptors()
+    {
+        ::getrlimit(RLIMIT_NOFILE, &before_);
+        const rlimit none{0, before_.rlim_max};
+        ::setrlimit(RLIMIT_NOFILE, &none);
+    }
+    ~WithoutDescriptors() { ::setrlimit(RLIMIT_NOFILE, &before_); }
+    WithoutDescriptors(const WithoutDescriptors &) = delete;
+    WithoutDescriptors &operator=(const WithoutDescriptors &) = delete;
+
+private:
+    rlimit before_{};
+};
+
+} // namespace
+
 class LinuxFiles : public testing::Test
 {
 protected:
+    /// The number of the error that opening the file raises; 0 where it is opened.
+    qint16 opening(const QString &path)
+    {
+        try {
+            files.openFile(path);
+        } catch (const platform::RuntimeError &error) {
+            return error.Number;
+        }
+        return 0;
+    }
+
     QString at(const QString &name) const { return base + u'\\' + name; }
     QString upper(const QString &name) const { return at(name).toUpper(); }
 
@@ -46,7 +80,58 @@ TEST_F(LinuxFiles, refuse_pipes_devices_and_links_to_nowhere_without_waiting)
     EXPECT_EQ(files.testReading(at(u"loop.dg"_s)), 75);
     EXPECT_EQ(files.testReading(at(u"file.dg"_s)), 0);
     EXPECT_THROW(files.firstLine(at(u"pipe.dg"_s)), platform::RuntimeError);
+    EXPECT_EQ(opening(at(u"pipe.dg"_s)), 75);
+    EXPECT_EQ(opening(upper(u"pipe.dg"_s)), 75);
+    EXPECT_EQ(opening(at(u"device.dg"_s)), 75);
+    EXPECT_EQ(opening(at(u"dangling.dg"_s)), 53);
+    EXPECT_EQ(opening(at(u"file.dg"_s)), 0);
     EXPECT_EQ(files.directory(base, Reading::Anew)->files(u"*.dg"_s).toList(), QStringList{u"file.dg"_s});
+}
+
+TEST_F(LinuxFiles, cannot_be_opened_where_too_many_are)
+{
+    scratch.makeFile("About.txt", "text");
+    {
+        const WithoutDescriptors none;
+        EXPECT_EQ(opening(at(u"About.txt"_s)), 67);
+        EXPECT_EQ(opening(upper(u"About.txt"_s)), 67) << "whether there is such a file cannot be known";
+        EXPECT_EQ(files.testReading(upper(u"About.txt"_s)), 67);
+    }
+    EXPECT_EQ(opening(upper(u"About.txt"_s)), 0);
+    EXPECT_EQ(opening(upper(u"missing.txt"_s)), 53);
+    files.directory(base, Reading::Anew);
+    files.beginMoment();
+    EXPECT_EQ(opening(upper(u"About.txt"_s)), 0);
+    {
+        const WithoutDescriptors none;
+        EXPECT_EQ(opening(upper(u"About.txt"_s)), 67);
+        EXPECT_EQ(opening(upper(u"missing.txt"_s)), 53) << "its directory is known already";
+    }
+    files.endMoment();
+}
+
+TEST_F(LinuxFiles, raise_what_goes_wrong_while_they_are_read)
+{
+    // The process's own memory, of which nothing lies at its beginning.
+    const auto file = files.openFile(u"Z:\\proc\\self\\mem"_s);
+    try {
+        file->read(16);
+        ADD_FAILURE() << "nothing was read without an error";
+    } catch (const platform::RuntimeError &error) {
+        EXPECT_EQ(error.Number, 57);
+    }
+}
+
+TEST_F(LinuxFiles, grow_and_shrink_while_they_are_read)
+{
+    scratch.makeFile("about.txt", "0123456789");
+    const auto file = files.openFile(at(u"about.txt"_s));
+    EXPECT_EQ(file->read(4), "0123");
+    scratch.makeFile("about.txt", "01");
+    EXPECT_EQ(file->read(4), "");
+    scratch.makeFile("about.txt", "0123456789ab");
+    EXPECT_EQ(file->read(4), "4567");
+    EXPECT_EQ(file->read(100), "89ab");
 }
 
 TEST_F(LinuxFiles, know_permissions)
@@ -155,6 +240,10 @@ TEST_F(LinuxFiles, take_a_native_program_for_a_missing_exe)
     EXPECT_EQ(files.hostProgram(upper(u"fourier.exe"_s)), scratch.path("Fourier.EXE"));
     EXPECT_EQ(files.testReading(upper(u"energy.exe"_s)), 53);
     EXPECT_EQ(files.testReading(upper(u"kinemati.out"_s)), 53);
+    EXPECT_EQ(files.openFile(upper(u"kinemati.exe"_s))->read(100), "#!/bin/true\n");
+    EXPECT_EQ(files.openFile(upper(u"fourier.exe"_s))->read(100), "MZ");
+    EXPECT_EQ(opening(upper(u"noise.exe"_s)), 53);
+    EXPECT_EQ(opening(upper(u"kinemati.txt"_s)), 53);
 }
 
 TEST_F(LinuxFiles, give_documents_their_true_path)
