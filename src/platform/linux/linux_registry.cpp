@@ -13,11 +13,14 @@ namespace {
 class SystemInformationKey : public RegistryKey
 {
 public:
-    RegistryValue value(const QString &name, qsizetype) override
+    RegistryValue value(const QString &name, qsizetype most) override
     {
         if (!sameIgnoringCase(name, u"PATH"_s))
             throw RuntimeError(ErrorNumber::FileNotFound);
-        return {RegistryText, u"MSINFO32.EXE"_s + QChar(u'\0')};
+        RegistryValue tool{RegistryText, u"MSINFO32.EXE"_s + QChar(u'\0')};
+        if (tool.data.size() > most)
+            throw RuntimeError(ErrorNumber::InvalidProcedureCall);
+        return tool;
     }
 };
 
