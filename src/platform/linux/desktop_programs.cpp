@@ -81,12 +81,15 @@ const std::vector<Accessory> &accessories()
         {"msinfo32.exe",
          "system-information tool",
          {{"kinfocenter", "KDE"},
-          {"gnome-system-monitor", "GNOME"},
-          {"mate-system-monitor", "MATE"},
+          {"mintreport", "X-Cinnamon"},
           {"hardinfo2", ""},
           {"hardinfo", ""},
-          {"lshw-gtk", ""}}},
-        {"winhlp32.exe", "help viewer", {{"yelp", "GNOME"}, {"khelpcenter", "KDE"}}},
+          {"cpu-x", ""},
+          {"lshw-gtk", ""},
+          // Mainly processes and what they use: better than nothing.
+          {"mate-system-monitor", "MATE"},
+          {"gnome-system-monitor", ""}}},
+        {"winhlp32.exe", "help viewer", {{"yelp", "GNOME"}, {"khelpcenter", "KDE"}, {"xman", ""}}},
         {"command.com", "terminal", {}},
     };
     return table;

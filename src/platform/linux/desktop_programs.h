@@ -20,7 +20,7 @@ struct DesktopProgram
 QByteArray findInPath(const QByteArray &name);
 
 /// Whether `name` (any case) names one of the accessories that the package starts by a bare name:
-/// "notepad.exe", "calc.exe", "command.com", "explorer.exe", "mplayer.exe".
+/// "notepad.exe", "calc.exe", "command.com", "explorer.exe", "mplayer.exe", "msinfo32.exe", "winhlp32.exe".
 bool isAccessory(const QString &name);
 
 /// The desktop's own program for an accessory: those of the running desktop first, then any; nothing where

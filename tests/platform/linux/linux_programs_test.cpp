@@ -359,6 +359,52 @@ TEST_F(LinuxStarts, say_which_accessory_is_missing)
               u"this desktop has no media player installed"_s);
 }
 
+TEST_F(LinuxStarts, show_what_the_system_is_with_the_desktops_own_tool)
+{
+    Start start = open(u"MSINFO32.EXE"_s, QString());
+    start.verb.clear();
+    result = programs.start(start);
+    EXPECT_EQ(result.failure, u"this desktop has no system-information tool installed"_s);
+    EXPECT_EQ(result.value, 0);
+    install("bin/hardinfo");
+    install("bin/mate-system-monitor");
+    EXPECT_EQ(run(start), (QList<QByteArray>{scratch.path(), scratch.path("bin/hardinfo")}));
+    EXPECT_GT(result.value, 32);
+    {
+        const support::ScopedVariable mate("XDG_CURRENT_DESKTOP", "MATE");
+        EXPECT_EQ(run(start).value(1), scratch.path("bin/mate-system-monitor"));
+    }
+    const support::ScopedVariable kde("XDG_CURRENT_DESKTOP", "KDE");
+    EXPECT_EQ(run(start).value(1), scratch.path("bin/hardinfo")) << "its own is not installed";
+    install("bin/kinfocenter");
+    EXPECT_EQ(run(start).value(1), scratch.path("bin/kinfocenter"));
+}
+
+TEST_F(LinuxStarts, show_help_with_the_desktops_own_viewer)
+{
+    EXPECT_EQ(programs.start(open(u"WinHlp32.EXE"_s, QString())).failure,
+              u"this desktop has no help viewer installed"_s);
+    install("bin/khelpcenter");
+    EXPECT_EQ(run(open(u"WinHlp32.EXE"_s, QString())),
+              (QList<QByteArray>{scratch.path(), scratch.path("bin/khelpcenter")}));
+    install("bin/yelp");
+    EXPECT_EQ(run(open(u"WinHlp32.EXE"_s, QString())).value(1), scratch.path("bin/yelp"));
+    const support::ScopedVariable variable("XDG_CURRENT_DESKTOP", "KDE");
+    EXPECT_EQ(run(open(u"winhlp32.exe"_s, QString())).value(1), scratch.path("bin/khelpcenter"));
+}
+
+TEST_F(LinuxStarts, do_not_mind_the_letter_case_of_the_verb)
+{
+    for (const QString &verb : {u"open"_s, u"Open"_s, u"OPEN"_s}) {
+        Start start = open(at(u"Program Files\\Kinemati.exe"_s), u"x"_s);
+        start.verb = verb;
+        EXPECT_EQ(run(start).value(2), "x");
+        EXPECT_GT(result.value, 32);
+        start.file = at(u"missing.exe"_s);
+        EXPECT_EQ(programs.start(start).value, 2);
+    }
+}
+
 /// A terminal that is none: "kitty" takes its command without an option, as env does.
 class LinuxTerminals : public LinuxStarts
 {
