@@ -95,6 +95,21 @@ const std::vector<Accessory> &accessories()
     return table;
 }
 
+struct Opener
+{
+    const char *program;
+    const char *argument; ///< what stands before the document, null for nothing
+};
+
+constexpr std::array<Opener, 6> Openers{{
+    {"xdg-open", nullptr},
+    {"gio", "open"},
+    {"kde-open", nullptr},
+    {"kde-open5", nullptr},
+    {"exo-open", nullptr},
+    {"gnome-open", nullptr},
+}};
+
 constexpr std::array<const char *, 15> Terminals{"xdg-terminal-exec",
                                                  "x-terminal-emulator",
                                                  "gnome-terminal",
@@ -191,6 +206,17 @@ QString accessoryKind(const QString &accessory)
 {
     const Accessory *row = find(accessory);
     return row == nullptr ? u"program"_s : QString(QLatin1String(row->kind));
+}
+
+QList<QByteArray> desktopOpener()
+{
+    for (const Opener &opener : Openers) {
+        const QByteArray path = findInPath(opener.program);
+        if (path.isEmpty())
+            continue;
+        return opener.argument == nullptr ? QList{path} : QList{path, QByteArray(opener.argument)};
+    }
+    return {};
 }
 
 QByteArray findTerminal()

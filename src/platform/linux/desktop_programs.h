@@ -33,6 +33,10 @@ bool needsTerminal(const QByteArray &hostPath);
 /// What the accessory is, such as "text editor".
 QString accessoryKind(const QString &accessory);
 
+/// The program with which the desktop opens documents and addresses, by its full path, and the arguments that
+/// stand before what is to be opened; empty where none is installed.
+QList<QByteArray> desktopOpener();
+
 /// The terminal in which console programs are shown; null where there is no display or no terminal.
 QByteArray findTerminal();
 

@@ -11,6 +11,8 @@
 #include <cstring>
 #include <utility>
 
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -23,6 +25,7 @@ namespace {
 constexpr double FileNotFound = 2;
 constexpr double AccessDenied = 5;
 constexpr double BadFormat = 11;
+constexpr double NoProgramForIt = 31;
 
 // A native program's header does not tell whether it opens windows of its own; these of the package do.
 constexpr std::array<const char *, 8> WindowedPrograms{"grafow",   "grafod", "acrospin", "skelvo",
@@ -39,6 +42,20 @@ bool opensWindows(const QByteArray &program)
 bool isBare(const QString &file)
 {
     return !file.contains(u'\\') && !file.contains(u':');
+}
+
+// A name of one file: nothing that leads out of its directory, in the panel's path language or in the host's.
+bool isPlainName(const QString &name)
+{
+    const auto leadsAway = [](QChar c) { return c == u'\\' || c == u'/' || c == u':' || c == u'\0'; };
+    return name != u"." && name != u".." && std::none_of(name.begin(), name.end(), leadsAway);
+}
+
+// Blanks and control characters have no place in an address, and might part it into several arguments.
+bool isWebAddress(const QString &text)
+{
+    const auto isForeign = [](QChar c) { return c.isSpace() || c.category() == QChar::Other_Control; };
+    return text.startsWith(u"https://") && std::none_of(text.begin(), text.end(), isForeign);
 }
 
 QByteArray directoryOf(const QByteArray &path)
@@ -101,10 +118,11 @@ StartResult LinuxPrograms::start(const Start &start)
         return StartResult{start.verb.isEmpty() ? 0 : value, why};
     };
     try {
-        const auto directory = files_.hostDirectory(start.directory);
+        const bool anywhere = start.target == Target::Address && start.directory.isEmpty();
+        const auto directory = anywhere ? QByteArray() : files_.hostDirectory(start.directory);
         if (!directory)
             return failed(FileNotFound, u"the directory %1 is gone"_s.arg(start.directory));
-        if (::access(directory->constData(), X_OK) != 0)
+        if (!anywhere && ::access(directory->constData(), X_OK) != 0)
             return failed(AccessDenied, u"the directory %1 may not be entered"_s.arg(start.directory));
         const Command command = commandFor(start, *directory);
         if (!command.failure.isEmpty())
@@ -129,12 +147,19 @@ StartResult LinuxPrograms::start(const Start &start)
             inTerminals_.append(value);
         return {value, QString()};
     } catch (const RuntimeError &error) {
-        return failed(FileNotFound, error.Description.left(1).toLower() + error.Description.mid(1));
+        const bool denied = start.target != Target::Program
+                            && error.Number == static_cast<qint16>(ErrorNumber::PermissionDenied);
+        return failed(denied ? AccessDenied : FileNotFound,
+                      error.Description.left(1).toLower() + error.Description.mid(1));
     }
 }
 
 LinuxPrograms::Command LinuxPrograms::commandFor(const Start &start, const QByteArray &directory)
 {
+    if (start.target == Target::Document)
+        return documentCommand(start, directory);
+    if (start.target == Target::Address)
+        return addressCommand(start);
     if (isBare(start.file)) {
         if (isAccessory(start.file))
             return accessoryCommand(start);
@@ -147,6 +172,41 @@ LinuxPrograms::Command LinuxPrograms::commandFor(const Start &start, const QByte
     if (!program)
         return {.failure = u"it was not found"_s};
     return programCommand(start, directory, *program);
+}
+
+// The file is looked at before it is handed on: what an opener says about it is shown nowhere.
+LinuxPrograms::Command LinuxPrograms::documentCommand(const Start &start, const QByteArray &directory)
+{
+    QByteArray document = directory;
+    if (!start.file.isEmpty()) {
+        const auto found = isPlainName(start.file)
+                               ? files_.hostDocument(joinPath(start.directory, start.file))
+                               : std::nullopt;
+        struct stat status = {};
+        if (!found || ::stat(found->constData(), &status) != 0)
+            return {.failure = u"it was not found"_s};
+        if (!S_ISREG(status.st_mode))
+            return {.failure = u"it is not a file"_s};
+        if (::faccessat(AT_FDCWD, found->constData(), R_OK, AT_EACCESS) != 0)
+            return {.failure = u"permission was denied"_s, .failureValue = AccessDenied};
+        document = *found;
+    }
+    return openerCommand(document);
+}
+
+LinuxPrograms::Command LinuxPrograms::addressCommand(const Start &start)
+{
+    if (!isWebAddress(start.file))
+        return {.failure = u"it is not an https address"_s};
+    return openerCommand(start.file.toUtf8());
+}
+
+LinuxPrograms::Command LinuxPrograms::openerCommand(const QByteArray &argument)
+{
+    const QList<QByteArray> opener = desktopOpener();
+    if (opener.isEmpty())
+        return {.failure = u"this desktop has nothing to open it with"_s, .failureValue = NoProgramForIt};
+    return {.arguments = opener + QList{argument}};
 }
 
 LinuxPrograms::Command LinuxPrograms::accessoryCommand(const Start &start)

@@ -9,7 +9,8 @@
 namespace platform::host {
 
 /// Starts programs on the host: native ones and scripts as they are, Windows programs through Wine, DOS
-/// programs through DOSBox, console programs in a terminal where there is one.
+/// programs through DOSBox, console programs in a terminal where there is one. Documents and addresses go to
+/// the desktop's opener, whatever the verb.
 class LinuxPrograms : public Programs
 {
 public:
@@ -23,6 +24,9 @@ private:
     struct Command;
 
     Command commandFor(const Start &start, const QByteArray &directory);
+    Command documentCommand(const Start &start, const QByteArray &directory);
+    static Command addressCommand(const Start &start);
+    static Command openerCommand(const QByteArray &argument);
     Command accessoryCommand(const Start &start);
     Command programCommand(const Start &start, const QByteArray &directory, const QByteArray &program);
     Command nativeCommand(const Start &start, const QByteArray &program);

@@ -1,5 +1,7 @@
 // Real processes: an echo program records what it was given.
 
+#include "platform/letter_case.h"
+#include "platform/linux/host_names.h"
 #include "platform/linux/linux_programs.h"
 #include "platform/path_language.h"
 #include "printing.h"
@@ -26,6 +28,7 @@ using platform::CommandText;
 using platform::Ending;
 using platform::Start;
 using platform::StartResult;
+using platform::Target;
 using platform::host::LinuxFileSystem;
 using platform::host::LinuxPrograms;
 
@@ -403,6 +406,289 @@ TEST_F(LinuxStarts, do_not_mind_the_letter_case_of_the_verb)
         start.file = at(u"missing.exe"_s);
         EXPECT_EQ(programs.start(start).value, 2);
     }
+}
+
+/// Documents and addresses, for the echo program in place of the desktop's opener.
+class LinuxDocuments : public LinuxStarts
+{
+protected:
+    LinuxDocuments()
+    {
+        scratch.makeDirectory("Manuals");
+        install("bin/xdg-open");
+    }
+
+    Start document(const QString &name) const
+    {
+        return {.verb = u"open"_s, .file = name, .directory = at(u"Manuals"_s), .target = Target::Document};
+    }
+
+    Start address(const QString &text) const
+    {
+        return {.verb = u"Open"_s, .file = text, .directory = base, .target = Target::Address};
+    }
+
+    void expectRefusal(const Start &start, const QString &why, double value = 2)
+    {
+        result = programs.start(start);
+        EXPECT_EQ(result.failure, why) << start.file.toStdString();
+        EXPECT_EQ(result.value, value) << start.file.toStdString();
+        EXPECT_TRUE(record().isEmpty()) << start.file.toStdString();
+    }
+};
+
+TEST_F(LinuxDocuments, are_opened_by_their_real_path)
+{
+    scratch.makeFile("Manuals/Kinovra.PDF");
+    const QList<QByteArray> opened{scratch.path("Manuals"), scratch.path("bin/xdg-open"),
+                                   scratch.path("Manuals/Kinovra.PDF")};
+    EXPECT_EQ(run(document(u"kinovra.pdf"_s)), opened);
+    EXPECT_GT(result.value, 32);
+    ASSERT_EQ(ends.size(), 1U);
+    EXPECT_EQ(ends[0].value, result.value);
+    EXPECT_EQ(ends[0].ending.kind, Ending::Kind::Exited);
+    EXPECT_EQ(ends[0].ending.code, 0);
+
+    for (const QString &directory : {u"Manuals\\"_s, u"MANUALS"_s, u"manuals\\"_s}) {
+        for (const QString &verb : {u"open"_s, u"Open"_s}) {
+            Start start = document(u"KINOVRA.PDF"_s);
+            start.directory = at(directory);
+            start.verb = verb;
+            EXPECT_EQ(run(start), opened) << directory.toStdString();
+            EXPECT_GT(result.value, 32);
+        }
+    }
+}
+
+TEST_F(LinuxDocuments, may_have_any_name)
+{
+    for (const QByteArray &name :
+         {QByteArray("Anna & Bob's manual.pdf"), QByteArray("-x.pdf"), QByteArray("--help"),
+          QByteArray(" blank\t.pdf "), QByteArray("f\xC3\xBChrung \xE2\x82\xAC.pdf"),
+          QByteArray("$(x) `y` ;|<>*?.pdf"), QByteArray("%41#b?c=d.pdf"), QByteArray("new\nline.pdf"),
+          QByteArray("..."), QByteArray("..x.pdf"), QByteArray("caf\xE9 \"x\" a:b c\\d.pdf"),
+          QByteArray("notepad.exe")}) {
+        scratch.makeFile("Manuals/" + name);
+        const auto names = files.directory(at(u"Manuals"_s), platform::Reading::Anew);
+        const QString shown = platform::host::fromHostName(name);
+        EXPECT_EQ(names->find(shown), shown);
+        for (const QString &written : {shown, platform::UCase(shown)}) {
+            EXPECT_EQ(run(document(written)),
+                      (QList<QByteArray>{scratch.path("Manuals"), scratch.path("bin/xdg-open"),
+                                         scratch.path("Manuals/" + name)}))
+                << name.toStdString();
+        }
+    }
+}
+
+TEST_F(LinuxDocuments, are_taken_from_their_directory_alone)
+{
+    scratch.makeFile("kv_win.pdf");
+    scratch.makeFile("bin/kv_win.pdf");
+    scratch.makeExecutable("bin/planted", "#!/bin/true\n");
+    scratch.makeExecutable("Manuals/native", "#!/bin/true\n");
+    files.changeDrive(base);
+    files.changeDirectory(base);
+    for (const QByteArray &searched : {scratch.path("bin"), scratch.path("bin") + ":.:"}) {
+        const support::ScopedVariable variable("PATH", searched);
+        for (const QString &name :
+             {u"kv_win.pdf"_s, u"planted"_s, u"planted.exe"_s, u"native.exe"_s, u"notepad.exe"_s})
+            expectRefusal(document(name), u"it was not found"_s);
+    }
+    Start nowhere = document(u"kv_win.pdf"_s);
+    nowhere.directory.clear();
+    expectRefusal(nowhere, u"path not found"_s);
+    nowhere.directory = at(u"gone"_s);
+    expectRefusal(nowhere, u"the directory "_s + at(u"gone"_s) + u" is gone"_s);
+}
+
+TEST_F(LinuxDocuments, have_names_that_lead_nowhere_else)
+{
+    scratch.makeFile("secret.pdf");
+    scratch.makeDirectory("Manuals/sub");
+    scratch.makeFile("Manuals/sub/x.pdf");
+    scratch.makeFile("Manuals/x.pdf");
+    for (const QString &name :
+         {u"..\\secret.pdf"_s, u"../secret.pdf"_s, u"sub\\x.pdf"_s, u"sub/x.pdf"_s, u"\\x.pdf"_s, u"/x.pdf"_s,
+          u"./x.pdf"_s, u".\\x.pdf"_s, u"x.pdf/"_s, u".."_s, u"."_s, u"Z:x.pdf"_s, u"x.pdf:1"_s,
+          u"/etc/passwd"_s, at(u"secret.pdf"_s), at(u"Manuals\\x.pdf"_s), u"x.pdf"_s + QChar(u'\0'),
+          u"https://example.org/x.pdf"_s, QString(300, u'x')})
+        expectRefusal(document(name), u"it was not found"_s);
+    EXPECT_EQ(run(document(u"x.pdf"_s)).value(2), scratch.path("Manuals/x.pdf"));
+}
+
+TEST_F(LinuxDocuments, must_still_be_there)
+{
+    scratch.makeFile("Manuals/graph.pdf");
+    files.directory(at(u"Manuals"_s), platform::Reading::Anew);
+    files.beginMoment();
+    EXPECT_EQ(files.testReading(at(u"MANUALS\\GRAPH.PDF"_s)), 0);
+    scratch.remove("Manuals/graph.pdf");
+    EXPECT_EQ(files.testReading(at(u"MANUALS\\GRAPH.PDF"_s)), 53);
+    expectRefusal(document(u"GRAPH.PDF"_s), u"it was not found"_s);
+    files.endMoment();
+    expectRefusal(document(u"graph.pdf"_s), u"it was not found"_s);
+}
+
+TEST_F(LinuxDocuments, are_regular_files)
+{
+    scratch.makePipe("Manuals/pipe.pdf");
+    scratch.makeLink("Manuals/device.pdf", "/dev/zero");
+    scratch.makeLink("Manuals/dangling.pdf", "/gone/away.pdf");
+    scratch.makeLink("Manuals/loop.pdf", "loop.pdf");
+    scratch.makeDirectory("Manuals/folder.pdf");
+    expectRefusal(document(u"PIPE.PDF"_s), u"it is not a file"_s);
+    expectRefusal(document(u"device.pdf"_s), u"it is not a file"_s);
+    expectRefusal(document(u"folder.pdf"_s), u"it is not a file"_s);
+    expectRefusal(document(u"dangling.pdf"_s), u"it was not found"_s);
+    expectRefusal(document(u"loop.pdf"_s), u"it was not found"_s);
+    scratch.makeFile("elsewhere.pdf");
+    scratch.makeLink("Manuals/link.pdf", "../elsewhere.pdf");
+    EXPECT_EQ(run(document(u"Link.PDF"_s)).value(2), scratch.path("Manuals/link.pdf"));
+}
+
+TEST_F(LinuxDocuments, must_be_readable)
+{
+    scratch.makeFile("Manuals/secret.pdf");
+    scratch.makeDirectory("closed/manuals");
+    ::chmod(scratch.path("Manuals/secret.pdf").constData(), 0);
+    ::chmod(scratch.path("closed").constData(), 0);
+    {
+        const support::WithoutPrivileges nobody;
+        expectRefusal(document(u"SECRET.PDF"_s), u"permission was denied"_s, 5);
+        Start below = document(u"x.pdf"_s);
+        below.directory = at(u"closed\\manuals"_s);
+        expectRefusal(below, u"permission denied"_s, 5);
+    }
+    ::chmod(scratch.path("closed").constData(), 0755);
+}
+
+TEST_F(LinuxDocuments, without_a_name_are_their_directory)
+{
+    const QList<QByteArray> opened{scratch.path("Manuals"), scratch.path("bin/xdg-open"),
+                                   scratch.path("Manuals")};
+    EXPECT_EQ(run(document(QString())), opened);
+    Start start = document(QString());
+    start.directory = at(u"MANUALS\\"_s);
+    EXPECT_EQ(run(start), opened);
+    start.directory = u"Z:\\"_s;
+    EXPECT_EQ(run(start), (QList<QByteArray>{"/", scratch.path("bin/xdg-open"), "/"}));
+}
+
+TEST_F(LinuxDocuments, that_are_addresses_are_passed_as_they_are)
+{
+    for (const QString &text :
+         {u"https://www.example.org/kinovra/"_s, u"https://example.org/a%20b?x=1&y='2'#z;$(w)"_s,
+          u"https://example.org/ü€/\uF05C"_s, u"https://example.org/file:///etc"_s}) {
+        EXPECT_EQ(run(address(text)),
+                  (QList<QByteArray>{scratch.path(), scratch.path("bin/xdg-open"), text.toUtf8()}));
+        EXPECT_GT(result.value, 32);
+    }
+}
+
+TEST_F(LinuxDocuments, that_are_no_secure_addresses_are_refused)
+{
+    for (const QString &text : {u"http://www.example.org/"_s,
+                                u"file:///etc/passwd"_s,
+                                u"javascript:alert(1)"_s,
+                                u"-option"_s,
+                                u"--help"_s,
+                                u"www.example.org"_s,
+                                u"mailto:a@example.org"_s,
+                                u"https:/x"_s,
+                                u"xhttps://x"_s,
+                                u" https://example.org/"_s,
+                                u"https://example.org/a b"_s,
+                                u"https://example.org/\tx"_s,
+                                u"https://example.org/\n-x"_s,
+                                u"https://example.org/\x7F"_s,
+                                u"https://example.org/\u00A0"_s,
+                                u"https://example.org/\u0085"_s,
+                                u"https://example.org/"_s + QChar(u'\0'),
+                                u"Manuals"_s,
+                                at(u"x"_s),
+                                QString()})
+        expectRefusal(address(text), u"it is not an https address"_s);
+}
+
+TEST_F(LinuxDocuments, that_are_addresses_need_no_directory)
+{
+    scratch.makeDirectory("doomed");
+    files.changeDrive(base);
+    files.changeDirectory(at(u"doomed"_s));
+    Start start = address(u"https://example.org/"_s);
+    start.directory.clear();
+    EXPECT_EQ(run(start), (QList<QByteArray>{scratch.path("doomed"), scratch.path("bin/xdg-open"),
+                                             "https://example.org/"}));
+
+    scratch.remove("doomed");
+    scratch.remove("record");
+    // The echo program would have to know where it is.
+    scratch.makeExecutable("bin/xdg-open", "#!/bin/sh\nprintf '%s' \"$*\" >\"$ECHO_FILE\"\n");
+    result = programs.start(start);
+    EXPECT_EQ(result.failure, QString());
+    waitForEnd();
+    EXPECT_EQ(scratch.read("record"), "https://example.org/");
+
+    start.directory = at(u"gone"_s);
+    EXPECT_EQ(programs.start(start).failure, u"the directory "_s + at(u"gone"_s) + u" is gone"_s);
+}
+
+TEST_F(LinuxDocuments, go_to_the_first_opener_that_is_installed)
+{
+    scratch.makeFile("Manuals/graph.pdf");
+    scratch.remove("bin/xdg-open");
+    for (const QByteArray &opener :
+         {QByteArray("gnome-open"), QByteArray("exo-open"), QByteArray("kde-open5"), QByteArray("kde-open"),
+          QByteArray("gio"), QByteArray("xdg-open")}) {
+        install("bin/" + opener);
+        QList<QByteArray> opened{scratch.path("Manuals"), scratch.path("bin/" + opener)};
+        if (opener == "gio")
+            opened.append("open");
+        EXPECT_EQ(run(document(u"graph.pdf"_s)), opened + QList{scratch.path("Manuals/graph.pdf")});
+        opened[0] = scratch.path();
+        EXPECT_EQ(run(address(u"https://example.org/"_s)),
+                  opened + QList{QByteArray("https://example.org/")});
+    }
+}
+
+TEST_F(LinuxDocuments, need_an_opener)
+{
+    scratch.makeFile("Manuals/graph.pdf");
+    install("xdg-open");
+    install("Manuals/gio");
+    files.changeDrive(base);
+    files.changeDirectory(base);
+    for (const QByteArray &searched : {QByteArray("."), QByteArray(""), QByteArray(":.:Manuals")}) {
+        const support::ScopedVariable variable("PATH", searched);
+        for (const Start &start :
+             {document(u"graph.pdf"_s), document(QString()), address(u"https://example.org/"_s)})
+            expectRefusal(start, u"this desktop has nothing to open it with"_s, 31);
+    }
+    ::chmod(scratch.path("bin/xdg-open").constData(), 0644);
+    expectRefusal(document(u"graph.pdf"_s), u"this desktop has nothing to open it with"_s, 31);
+}
+
+TEST_F(LinuxDocuments, tell_how_the_opener_ended)
+{
+    scratch.makeFile("Manuals/graph.pdf");
+    const support::ScopedVariable code("ECHO_EXIT", "4");
+    run(document(u"graph.pdf"_s));
+    EXPECT_EQ(ends.back().value, result.value);
+    EXPECT_EQ(ends.back().ending.kind, Ending::Kind::Exited);
+    EXPECT_EQ(ends.back().ending.code, 4);
+    run(address(u"https://example.org/"_s));
+    EXPECT_EQ(ends.back().value, result.value);
+    EXPECT_EQ(ends.back().ending.code, 4);
+}
+
+TEST_F(LinuxDocuments, are_opened_in_no_terminal)
+{
+    scratch.makeFile("Manuals/graph.pdf");
+    install("bin/kitty");
+    const support::ScopedVariable shown("DISPLAY", ":99");
+    EXPECT_EQ(run(document(u"graph.pdf"_s)).value(1), scratch.path("bin/xdg-open"));
+    EXPECT_EQ(run(address(u"https://example.org/"_s)).value(1), scratch.path("bin/xdg-open"));
 }
 
 /// A terminal that is none: "kitty" takes its command without an option, as env does.
