@@ -38,12 +38,7 @@ AboutWindow::AboutWindow(EventRunner &events, QWidget *mainWindow)
                      [this, header] { header->setText(bannerLines(about_.lblHeader.Caption)); });
     bindings_.follow(about_.Caption, [this] { setWindowTitle(about_.Caption); });
     bindings_.follow(about_.Visible, [this] { followVisible(); });
-    about_.ToFront = [this] {
-        if (isVisible()) {
-            raise();
-            activateWindow();
-        }
-    };
+    about_.ToFront = [this] { activation_.showAgain(); };
 }
 
 // It appears after the main window where both are shown at once, so that it lies above it.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QObject>
 
 #include <functional>
@@ -10,7 +11,8 @@ namespace views {
 
 /// Tells of a window's activations in the classic way: once each time that a command shows the window and
 /// each time that it comes back from another window. The window's own boxes and dialogs do not count, and
-/// what happens while it is loading counts once, when it has been loaded.
+/// what happens while it is loading counts once, when it has been loaded. It is told from the event loop,
+/// when the window is there.
 class Activation : public QObject
 {
     Q_OBJECT
@@ -24,16 +26,22 @@ public:
     /// The window has been loaded.
     void endLoading();
 
+    /// Brings the window to the front, where it is shown: a command shows it again.
+    void showAgain();
+
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void tell();
+    void shown();
+    void announce();
 
     QWidget *window_;
     std::function<void()> activated_;
+    QElapsedTimer
+        sinceShown_; ///< valid until the activation that follows a showing, which is told of already
     bool loading_ = false;
     bool waiting_ = false;      ///< an activation is waiting for the end of the loading
-    bool showing_ = false;      ///< it was told of when the window was shown
+    bool announced_ = false;    ///< an activation is about to be told of
     bool behindOwnBox_ = false; ///< the window is inactive because of a box of its own
 };
 

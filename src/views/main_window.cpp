@@ -1,6 +1,7 @@
 #include "views/main_window.h"
 
 #include "platform/display_text.h"
+#include "shell/menu_tree.h"
 #include "views/directory_list_view.h"
 #include "views/drive_box.h"
 #include "views/elided_label.h"
@@ -56,6 +57,14 @@ QLabel *makeCaption(const QString &text, QWidget *value)
     return label;
 }
 
+std::vector<MenuLine> menuLines(shell::frmKinovra &frm)
+{
+    std::vector<MenuLine> lines;
+    for (const shell::MenuRow &row : shell::menuTree())
+        lines.push_back({row.depth, row.isSeparator() ? nullptr : &row.item(frm)});
+    return lines;
+}
+
 } // namespace
 
 MainWindow::MainWindow(EventRunner &events)
@@ -64,7 +73,7 @@ MainWindow::MainWindow(EventRunner &events)
     setMenuBar(new QMenuBar);
     // The desktop's own bar could not close its menus before a question and open them again.
     menuBar()->setNativeMenuBar(false);
-    menus_ = new Menus(menuBar(), events_);
+    menus_ = new Menus(menuBar(), events_, menuLines(frm_));
     setCentralWidget(makeCentre());
     makeStatusBar();
     leaveAccessKeysToMenus();

@@ -1,7 +1,5 @@
 #include "views/menus.h"
 
-#include "shell/menu_tree.h"
-
 #include <QApplication>
 #include <QKeyEvent>
 #include <QKeySequence>
@@ -11,6 +9,7 @@
 #include <QTimer>
 
 #include <chrono>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -36,8 +35,8 @@ void closeMenus()
     }
 }
 
-Menus::Menus(QMenuBar *bar, EventRunner &events)
-    : QObject(bar), bar_(bar), events_(events), rest_(new QTimer(this))
+Menus::Menus(QMenuBar *bar, EventRunner &events, std::vector<MenuLine> lines)
+    : QObject(bar), bar_(bar), events_(events), lines_(std::move(lines)), rest_(new QTimer(this))
 {
     rest_->setObjectName(u"rest"_s);
     rest_->setSingleShot(true);
@@ -49,29 +48,34 @@ Menus::Menus(QMenuBar *bar, EventRunner &events)
 // The menu bar alone: what a menu holds is made when it is first opened, so that the window appears sooner.
 void Menus::build()
 {
-    const auto &rows = shell::menuTree();
-    for (size_t row = 0; row < rows.size(); ++row) {
-        if (rows[row].depth > 0)
+    for (size_t line = 0; line < lines_.size(); ++line) {
+        if (lines_[line].depth > 0)
             continue;
-        QMenu *menu = bar_->addMenu(rows[row].caption);
-        accessKeys_ += accessKey(rows[row].caption);
-        bindMenu(menu, row);
+        const QString caption = lines_[line].item->Caption;
+        QMenu *menu = bar_->addMenu(caption);
+        accessKeys_ += accessKey(caption);
+        bindMenu(menu, line);
     }
 }
 
-void Menus::fill(QMenu *menu, size_t menuRow)
+bool Menus::isMenu(size_t line) const
 {
-    const auto &rows = shell::menuTree();
-    const int depth = rows[menuRow].depth + 1;
-    for (size_t row = menuRow + 1; row < rows.size() && rows[row].depth >= depth; ++row) {
-        if (rows[row].depth > depth)
+    return line + 1 < lines_.size() && lines_[line + 1].depth > lines_[line].depth;
+}
+
+void Menus::fill(QMenu *menu, size_t menuLine)
+{
+    const int depth = lines_[menuLine].depth + 1;
+    for (size_t line = menuLine + 1; line < lines_.size() && lines_[line].depth >= depth; ++line) {
+        if (lines_[line].depth > depth)
             continue;
-        if (rows[row].isSeparator())
+        controls::MenuItem *item = lines_[line].item;
+        if (item == nullptr)
             menu->addSeparator();
-        else if (row + 1 < rows.size() && rows[row + 1].depth > depth)
-            bindMenu(menu->addMenu(rows[row].caption), row);
+        else if (isMenu(line))
+            bindMenu(menu->addMenu(item->Caption), line);
         else
-            bindItem(menu->addAction(rows[row].caption), rows[row].item(events_.panel().frm));
+            bindItem(menu->addAction(item->Caption), *item);
     }
 }
 
@@ -97,13 +101,13 @@ void Menus::bind(QAction *action, controls::MenuItem &item)
     });
 }
 
-void Menus::bindMenu(QMenu *menu, size_t menuRow)
+void Menus::bindMenu(QMenu *menu, size_t menuLine)
 {
-    controls::MenuItem &item = shell::menuTree()[menuRow].item(events_.panel().frm);
+    controls::MenuItem &item = *lines_[menuLine].item;
     bind(menu->menuAction(), item);
-    connect(menu, &QMenu::aboutToShow, this, [this, menu, menuRow, &item] {
+    connect(menu, &QMenu::aboutToShow, this, [this, menu, menuLine, &item] {
         if (menu->isEmpty())
-            fill(menu, menuRow);
+            fill(menu, menuLine);
         opens(menu, item);
     });
     connect(menu, &QMenu::aboutToHide, this, [this] {

@@ -5,6 +5,8 @@
 
 #include <QObject>
 
+#include <vector>
+
 class QAction;
 class QMenu;
 class QMenuBar;
@@ -15,23 +17,31 @@ namespace views {
 /// Closes all open menus, so that a box can be shown.
 void closeMenus();
 
-/// Renders the panel's menu tree in a menu bar.
+/// One line of a menu tree in menu order; a line whose successor is deeper is a menu.
+struct MenuLine
+{
+    int depth;                ///< 0 in the menu bar
+    controls::MenuItem *item; ///< nothing for a separator
+};
+
+/// Renders a menu tree in a menu bar.
 class Menus : public QObject
 {
     Q_OBJECT
 
 public:
-    Menus(QMenuBar *bar, EventRunner &events);
+    Menus(QMenuBar *bar, EventRunner &events, std::vector<MenuLine> lines);
 
     /// The access keys of the menu bar, in upper case.
     QString accessKeys() const { return accessKeys_; }
 
 private:
     void build();
-    void fill(QMenu *menu, size_t menuRow);
+    bool isMenu(size_t line) const;
+    void fill(QMenu *menu, size_t menuLine);
     void bind(QAction *action, controls::MenuItem &item);
     void bindItem(QAction *action, controls::MenuItem &item);
-    void bindMenu(QMenu *menu, size_t menuRow);
+    void bindMenu(QMenu *menu, size_t menuLine);
     void opens(QMenu *menu, controls::MenuItem &item);
     void askWhereTheUserRests();
     void asks(QMenu *menu, controls::MenuItem &item);
@@ -39,6 +49,7 @@ private:
 
     QMenuBar *bar_;
     EventRunner &events_;
+    const std::vector<MenuLine> lines_;
     Bindings bindings_;
     QString accessKeys_;
     QTimer *rest_;             ///< until a submenu that has opened is meant

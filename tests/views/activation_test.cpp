@@ -14,6 +14,7 @@ protected:
     {
         widget.activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&widget));
+        QCoreApplication::processEvents();
     }
 
     int count = 0;
@@ -81,6 +82,7 @@ TEST_F(Activations, while_the_window_is_loading_count_once_when_it_has_been_load
     activate(window);
     EXPECT_EQ(count, 0);
     activation->endLoading();
+    QCoreApplication::processEvents();
     EXPECT_EQ(count, 1);
 }
 
@@ -88,5 +90,56 @@ TEST_F(Activations, while_the_window_is_loading_do_not_count_where_it_stays_hidd
 {
     activation->beginLoading();
     activation->endLoading();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(count, 0);
+}
+
+TEST_F(Activations, count_when_a_command_shows_the_window_again)
+{
+    window.show();
+    activate(window);
+    other.show();
+    activate(other);
+    activation->showAgain();
+    activate(window);
+    EXPECT_EQ(count, 2);
+    activation->showAgain();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(count, 3);
+    window.hide();
+    activation->showAgain();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(count, 3);
+}
+
+TEST_F(Activations, of_one_showing_are_one)
+{
+    window.show();
+    activation->showAgain();
+    activate(window);
+    EXPECT_EQ(count, 1);
+}
+
+TEST_F(Activations, count_where_another_window_was_active_behind_an_own_box)
+{
+    window.show();
+    activate(window);
+    other.show();
+    QMessageBox box(&window);
+    box.setModal(true);
+    box.show();
+    activate(box);
+    box.hide();
+    activate(other);
+    EXPECT_EQ(count, 1);
+    activate(window);
+    EXPECT_EQ(count, 2);
+}
+
+TEST_F(Activations, of_a_window_that_is_hidden_at_once_are_dropped)
+{
+    window.show();
+    window.hide();
+    QCoreApplication::processEvents();
     EXPECT_EQ(count, 0);
 }

@@ -402,6 +402,7 @@ TEST_F(MainWindowView, is_activated)
     frm.KeyPreview = false;
     QEvent activation(QEvent::WindowActivate);
     QCoreApplication::sendEvent(&window(), &activation);
+    settle();
     EXPECT_TRUE(frm.KeyPreview);
 }
 

@@ -214,7 +214,10 @@ QList<QByteArray> desktopOpener()
         const QByteArray path = findInPath(opener.program);
         if (path.isEmpty())
             continue;
-        return opener.argument == nullptr ? QList{path} : QList{path, QByteArray(opener.argument)};
+        QList<QByteArray> command(1, path);
+        if (opener.argument != nullptr)
+            command.append(opener.argument);
+        return command;
     }
     return {};
 }
