@@ -6,14 +6,15 @@
 #include "views/drive_box.h"
 #include "views/elided_label.h"
 #include "views/file_list_view.h"
+#include "views/fitted_font.h"
 #include "views/key_preview.h"
 #include "views/menus.h"
 #include "views/shared_place.h"
 #include "views/twips.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QPushButton>
@@ -33,7 +34,6 @@ constexpr int Gap = 4;
 constexpr int DirectoryColumn = 170;
 /// The height that the window has at first, in twips.
 constexpr int FirstHeight = 9000;
-constexpr qreal SmallestFont = 6;
 
 /// A caption without the "&" of its access key, as it is spoken.
 QString spoken(const QString &caption)
@@ -288,18 +288,9 @@ void MainWindow::bindWindow()
     bindings_.follow(frm_.Visible, [this] { setVisible(frm_.Visible); });
 }
 
-// The desktop's font, made smaller only where a caption would not fit.
 void MainWindow::fitFont()
 {
-    // A font may have its size in pixels.
-    qreal size = QFontInfo(QApplication::font()).pointSizeF();
-    useFont(QFont());
-    while (!fits() && size > SmallestFont) {
-        size -= 0.5;
-        QFont fitted = QApplication::font();
-        fitted.setPointSizeF(size);
-        useFont(fitted);
-    }
+    useFittedFont([this](const QFont &font) { useFont(font); }, [this] { return fits(); });
 }
 
 void MainWindow::useFont(const QFont &font)
