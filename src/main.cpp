@@ -8,6 +8,7 @@
 #include "shell/panel.h"
 #include "views/message_boxes.h"
 #include "views/panel_windows.h"
+#include "views/stride_picture.h"
 
 #include <QApplication>
 #include <QDir>
@@ -45,6 +46,7 @@ int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("kinovra"));
+    QApplication::setWindowIcon(views::applicationIcon());
     // Only unloading the main window ends the program.
     QApplication::setQuitOnLastWindowClosed(false);
 
