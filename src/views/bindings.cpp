@@ -3,9 +3,41 @@
 #include "platform/display_text.h"
 
 #include <QLabel>
+#include <QMouseEvent>
 #include <QPushButton>
 
 namespace views {
+
+namespace {
+
+/// Hears clicks for a widget, and for the widgets on it that leave them to it.
+class ClickListener : public QObject
+{
+public:
+    ClickListener(QWidget *widget, const controls::Event &click, EventRunner &events)
+        : QObject(widget), widget_(widget), click_(click), events_(events)
+    {
+        widget->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() != QEvent::MouseButtonRelease)
+            return false;
+        const auto *release = static_cast<QMouseEvent *>(event);
+        if (release->button() != Qt::LeftButton || !widget_->rect().contains(release->position().toPoint()))
+            return false;
+        events_.run(click_);
+        return true;
+    }
+
+private:
+    QWidget *widget_;
+    const controls::Event &click_;
+    EventRunner &events_;
+};
+
+} // namespace
 
 void Bindings::bind(QWidget *widget, controls::Control &control)
 {
@@ -30,6 +62,11 @@ void Bindings::bind(QPushButton *widget, controls::Button &button, EventRunner &
     bind(static_cast<QWidget *>(widget), button);
     follow(button.Caption, [widget, &button] { widget->setText(button.Caption); });
     QObject::connect(widget, &QPushButton::clicked, widget, [&events, &button] { events.run(button.Click); });
+}
+
+void Bindings::bindClick(QWidget *widget, const controls::Event &click, EventRunner &events)
+{
+    new ClickListener(widget, click, events);
 }
 
 } // namespace views

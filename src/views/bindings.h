@@ -33,6 +33,10 @@ public:
 
     void bind(QPushButton *widget, controls::Button &button, EventRunner &events);
 
+    /// A click with the left button on a widget that hears of none by itself, such as a label. It lasts as
+    /// long as the widget.
+    static void bindClick(QWidget *widget, const controls::Event &click, EventRunner &events);
+
 private:
     std::vector<QPropertyNotifier> notifiers_;
 };
