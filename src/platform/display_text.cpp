@@ -1,5 +1,7 @@
 #include "platform/display_text.h"
 
+#include <QStringList>
+
 #include <algorithm>
 
 namespace platform {
@@ -39,6 +41,14 @@ QString displayText(const QString &text)
     std::transform(text.begin(), text.end(), result.begin(),
                    [](QChar unit) { return QChar(shown(unit.unicode())); });
     return result;
+}
+
+QString displayLines(const QString &text)
+{
+    QStringList lines = QString(text).replace(QLatin1String("\r\n"), QLatin1String("\n")).split(u'\n');
+    for (QString &line : lines)
+        line = displayText(line);
+    return lines.join(u'\n');
 }
 
 } // namespace platform

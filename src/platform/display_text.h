@@ -9,4 +9,8 @@ namespace platform {
 /// that would turn the reading direction as replacement characters. Hostile names cannot disguise themselves.
 QString displayText(const QString &text);
 
+/// The same for a text of several lines: "\n" and "\r\n" end a line, in every other way the text is as
+/// displayText gives it.
+QString displayLines(const QString &text);
+
 } // namespace platform

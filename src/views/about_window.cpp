@@ -34,20 +34,10 @@ constexpr qreal HeadingSize = 1.5; ///< where the other texts have 1
 // Where one was built in.
 constexpr char16_t PhotographFile[] = u":/about/photograph";
 
-// Control characters show as their pictures, but line breaks break lines.
-QString shownLines(QString text)
-{
-    text.remove(u'\r');
-    QStringList lines = text.split(u'\n');
-    for (QString &line : lines)
-        line = platform::displayText(line);
-    return lines.join(u'\n');
-}
-
 // The banner's lines keep their blanks, but not the empty lines around them.
 QString bannerLines(const QString &banner)
 {
-    QString lines = shownLines(banner);
+    QString lines = platform::displayLines(banner);
     while (lines.startsWith(u'\n'))
         lines.remove(0, 1);
     return lines;
@@ -219,8 +209,9 @@ void AboutWindow::bindTexts()
     };
     bindings_.follow(about_.lblHeader.Caption,
                      [this, showText] { showText(banner_, bannerLines(about_.lblHeader.Caption)); });
-    bindings_.follow(about_.lblRell.Caption,
-                     [this, showText] { showText(contact_, shownLines(about_.lblRell.Caption)); });
+    bindings_.follow(about_.lblRell.Caption, [this, showText] {
+        showText(contact_, platform::displayLines(about_.lblRell.Caption));
+    });
 }
 
 void AboutWindow::bindWindow()

@@ -50,6 +50,7 @@ void Activation::showAgain()
     if (!window_->isVisible())
         return;
     shown();
+    window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
     window_->raise();
     window_->activateWindow();
 }

@@ -2,9 +2,12 @@
 
 #include "platform/display_text.h"
 
+#include <QAbstractButton>
+#include <QComboBox>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QSignalBlocker>
 
 namespace views {
 
@@ -67,6 +70,39 @@ void Bindings::bind(QPushButton *widget, controls::Button &button, EventRunner &
 void Bindings::bindClick(QWidget *widget, const controls::Event &click, EventRunner &events)
 {
     new ClickListener(widget, click, events);
+}
+
+void Bindings::bind(QAbstractButton *widget, QProperty<QString> &caption, QProperty<bool> &value)
+{
+    follow(caption, [widget, &caption] { widget->setText(caption); });
+    follow(value, [widget, &value] { widget->setChecked(value); });
+    QObject::connect(widget, &QAbstractButton::toggled, widget, [&value](bool checked) { value = checked; });
+}
+
+void Bindings::bind(QAbstractButton *widget, controls::CheckBox &box)
+{
+    bind(static_cast<QWidget *>(widget), box);
+    bind(widget, box.Caption, box.Value);
+}
+
+void Bindings::bind(QAbstractButton *widget, controls::OptionButton &option)
+{
+    bind(static_cast<QWidget *>(widget), option);
+    bind(widget, option.Caption, option.Value);
+}
+
+void Bindings::bind(QComboBox *widget, controls::ComboBox &box)
+{
+    bind(static_cast<QWidget *>(widget), box);
+    follow(box.Items, [widget, &box] {
+        const QSignalBlocker blocker(widget);
+        widget->clear();
+        for (const QString &item : box.Items.value())
+            widget->addItem(platform::displayText(item));
+        widget->setCurrentIndex(box.ListIndex);
+    });
+    follow(box.ListIndex, [widget, &box] { widget->setCurrentIndex(box.ListIndex); });
+    QObject::connect(widget, &QComboBox::activated, widget, [&box](int index) { box.ListIndex = index; });
 }
 
 } // namespace views

@@ -7,6 +7,8 @@
 
 #include <vector>
 
+class QAbstractButton;
+class QComboBox;
 class QLabel;
 class QPushButton;
 class QWidget;
@@ -37,7 +39,14 @@ public:
     /// long as the widget.
     static void bindClick(QWidget *widget, const controls::Event &click, EventRunner &events);
 
+    /// What the user checks or chooses is the control's value at once.
+    void bind(QAbstractButton *widget, controls::CheckBox &box);
+    void bind(QAbstractButton *widget, controls::OptionButton &option);
+    void bind(QComboBox *widget, controls::ComboBox &box);
+
 private:
+    void bind(QAbstractButton *widget, QProperty<QString> &caption, QProperty<bool> &value);
+
     std::vector<QPropertyNotifier> notifiers_;
 };
 

@@ -72,15 +72,6 @@ Answer answerOf(int button, Buttons buttons)
     return buttons == Buttons::YesNo ? platform::No : platform::Cancel;
 }
 
-// The lines stay lines; within them nothing can disguise itself.
-QString shownLines(const QString &text)
-{
-    QStringList lines = QString(text).replace(u"\r\n"_s, u"\n"_s).split(u'\n');
-    for (QString &line : lines)
-        line = platform::displayText(line);
-    return lines.join(u'\n');
-}
-
 bool isPattern(const QString &fileName)
 {
     return fileName.contains(u'*') || fileName.contains(u'?');
@@ -105,7 +96,7 @@ Answer MessageBoxes::message(const platform::MessageBox &box)
     closeMenus();
     QMessageBox window(standardIcon(box.icon),
                        box.title.isEmpty() ? QString(QLatin1String(shell::ApplicationTitle)) : box.title,
-                       shownLines(box.text), standardButtons(box.buttons), owner());
+                       platform::displayLines(box.text), standardButtons(box.buttons), owner());
     window.setTextFormat(Qt::PlainText);
     if (box.noByDefault)
         window.setDefaultButton(QMessageBox::No);

@@ -3,25 +3,46 @@
 #include "views/twips.h"
 
 #include <QGuiApplication>
+#include <QPalette>
 #include <QScreen>
 
 namespace views {
 
 namespace {
 
-controls::Screen screenSize()
+controls::Screen screenOf()
 {
     const QScreen *screen = QGuiApplication::primaryScreen();
     const QSize size = screen ? screen->size() : QSize();
-    return {toTwips(size.width()), toTwips(size.height())};
+    const QPalette palette = QGuiApplication::palette();
+    return {toTwips(size.width()), toTwips(size.height()),
+            palette.color(QPalette::Base).rgb() & platform::White,
+            palette.color(QPalette::Text).rgb() & platform::White};
 }
 
 } // namespace
 
-PanelWindows::PanelWindows(shell::Panel &panel)
-    : events_(panel), mainWindow_(events_), aboutWindow_(events_, &mainWindow_)
+PanelWindows::PanelWindows(shell::Panel &panel) : events_(panel), mainWindow_(events_)
 {
-    panel.screen = screenSize();
+    panel.screen = screenOf();
+    const auto onFirstShowing = [this](controls::Window &window, const std::function<void()> &make) {
+        notifiers_.push_back(window.Visible.addNotifier([&window, make] {
+            if (window.Visible)
+                make();
+        }));
+    };
+    onFirstShowing(panel.about, [this] {
+        if (!aboutWindow_)
+            aboutWindow_ = std::make_unique<AboutWindow>(events_, &mainWindow_);
+    });
+    onFirstShowing(panel.viewer, [this] {
+        if (!textViewer_)
+            textViewer_ = std::make_unique<TextViewerWindow>(events_);
+    });
+    onFirstShowing(panel.newAverage, [this] {
+        if (!averageDialog_)
+            averageDialog_ = std::make_unique<AverageDialog>(events_, &mainWindow_);
+    });
 }
 
 void PanelWindows::load()

@@ -28,3 +28,11 @@ TEST(DisplayText, shows_what_private_characters_stand_for)
 {
     EXPECT_EQ(displayText(u"a\uF03Ab\uF05Cc\uF022d\uF0E9"_s), u"a:b\\c\"d\uFFFD"_s);
 }
+
+TEST(DisplayLines, stay_lines_and_hide_nothing)
+{
+    using platform::displayLines;
+    EXPECT_EQ(displayLines(u"one\r\n\ntwo\rthree\n"_s), u"one\n\ntwo\u240Dthree\n"_s);
+    EXPECT_EQ(displayLines(u"\u202Eevil\n\u0007"_s), u"\uFFFDevil\n\u2407"_s);
+    EXPECT_EQ(displayLines(QString()), QString());
+}

@@ -36,7 +36,7 @@ protected:
         ASSERT_TRUE(contact()->isVisible());
     }
 
-    views::AboutWindow &about() const { return windows->aboutWindow(); }
+    views::AboutWindow &about() const { return *windows->aboutWindow(); }
 
     QLabel *labelWith(const QString &text) const
     {
