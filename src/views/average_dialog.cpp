@@ -65,20 +65,20 @@ QLayout *AverageDialog::makeFile()
     auto *grid = new QGridLayout;
     grid->setSpacing(Gap);
     auto *caption = new QLabel;
-    auto *file = new ReadOnlyField;
+    file_ = new ReadOnlyField;
     bindings_.bind(caption, frm_.lblBinary);
-    bindings_.bind(static_cast<QWidget *>(file), frm_.txtBinary);
+    bindings_.bind(static_cast<QWidget *>(file_), frm_.txtBinary);
     bindings_.follow(frm_.txtBinary.Text,
-                     [this, file] { file->setText(platform::displayText(frm_.txtBinary.Text)); });
-    connect(file, &ReadOnlyField::clicked, this, [this] { events_.run(frm_.txtBinary.Click); });
-    caption->setBuddy(file);
+                     [this] { file_->setText(platform::displayText(frm_.txtBinary.Text)); });
+    connect(file_, &ReadOnlyField::clicked, this, [this] { events_.run(frm_.txtBinary.Click); });
+    caption->setBuddy(file_);
     auto *listCaption = new QLabel;
     auto *list = new QComboBox;
     bindings_.bind(listCaption, frm_.Label1);
     bindings_.bind(list, frm_.comFilenames);
     listCaption->setBuddy(list);
     grid->addWidget(caption, 0, 0);
-    grid->addWidget(file, 0, 1);
+    grid->addWidget(file_, 0, 1);
     grid->addWidget(listCaption, 1, 0);
     grid->addWidget(list, 1, 1);
     grid->setColumnStretch(1, 1);
@@ -189,6 +189,14 @@ bool AverageDialog::fits() const
 void AverageDialog::reject()
 {
     events_.run(frm_.cmdCancel.Click);
+}
+
+// Enter begins what the dialog was opened for, whichever button was pressed last.
+void AverageDialog::showEvent(QShowEvent *event)
+{
+    if (!event->spontaneous())
+        file_->setFocus();
+    QDialog::showEvent(event);
 }
 
 void AverageDialog::closeEvent(QCloseEvent *event)

@@ -11,6 +11,8 @@ class QPushButton;
 
 namespace views {
 
+class ReadOnlyField;
+
 /// The dialog of the ensemble averaging options. Its lower part is there only while the dialog is tall.
 class AverageDialog : public QDialog
 {
@@ -23,6 +25,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     QWidget *makeUpperPart();
@@ -40,6 +43,7 @@ private:
     shell::frmNewAverage &frm_;
     Bindings bindings_;
     Activation activation_;
+    ReadOnlyField *file_ = nullptr;
     QPushButton *ok_ = nullptr;
     QPushButton *compute_ = nullptr;
     QWidget *upper_;

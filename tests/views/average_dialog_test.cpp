@@ -185,6 +185,18 @@ TEST_F(AverageDialogView, runs_by_keyboard)
     EXPECT_FALSE(dialog().isVisible());
 }
 
+TEST_F(AverageDialogView, enter_begins_what_it_was_opened_for_whatever_was_pressed_before)
+{
+    showFor(u"other.pj"_s);
+    push("O&K")->setFocus();
+    QTest::keyClick(push("O&K"), Qt::Key_Space);
+    EXPECT_EQ(machine.programs.started.size(), 1U);
+    showFor(QString());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    ASSERT_EQ(machine.programs.started.size(), 2U);
+    EXPECT_EQ(machine.programs.started[1].parameters.text(), u" /C/5 "_s);
+}
+
 TEST_F(AverageDialogView, enter_runs_nothing_where_nothing_can_run)
 {
     showFor(QString());
