@@ -142,6 +142,11 @@ AboutWindow::AboutWindow(EventRunner &events, QWidget *mainWindow)
     bindWindow();
 }
 
+AboutWindow::~AboutWindow()
+{
+    about_.ToFront = nullptr;
+}
+
 void AboutWindow::makeAbout()
 {
     auto *rows = new QVBoxLayout(aboutPlace_);

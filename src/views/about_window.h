@@ -18,6 +18,9 @@ class AboutWindow : public QDialog
 
 public:
     AboutWindow(EventRunner &events, QWidget *mainWindow);
+    ~AboutWindow() override;
+    AboutWindow(const AboutWindow &) = delete;
+    AboutWindow &operator=(const AboutWindow &) = delete;
 
 protected:
     bool event(QEvent *event) override;

@@ -43,6 +43,11 @@ AverageDialog::AverageDialog(EventRunner &events, QWidget *mainWindow)
     bindWindow();
 }
 
+AverageDialog::~AverageDialog()
+{
+    frm_.ToFront = nullptr;
+}
+
 QWidget *AverageDialog::makeUpperPart()
 {
     auto *part = new QWidget;

@@ -20,6 +20,9 @@ class AverageDialog : public QDialog
 
 public:
     AverageDialog(EventRunner &events, QWidget *mainWindow);
+    ~AverageDialog() override;
+    AverageDialog(const AverageDialog &) = delete;
+    AverageDialog &operator=(const AverageDialog &) = delete;
 
     void reject() override;
 

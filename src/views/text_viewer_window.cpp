@@ -62,6 +62,11 @@ TextViewerWindow::TextViewerWindow(EventRunner &events)
     page_->setFocus();
 }
 
+TextViewerWindow::~TextViewerWindow()
+{
+    frm_.ToFront = nullptr;
+}
+
 void TextViewerWindow::makeMenus()
 {
     setMenuBar(new QMenuBar);

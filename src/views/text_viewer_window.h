@@ -19,6 +19,9 @@ class TextViewerWindow : public QMainWindow
 
 public:
     explicit TextViewerWindow(EventRunner &events);
+    ~TextViewerWindow() override;
+    TextViewerWindow(const TextViewerWindow &) = delete;
+    TextViewerWindow &operator=(const TextViewerWindow &) = delete;
 
 protected:
     void changeEvent(QEvent *event) override;
