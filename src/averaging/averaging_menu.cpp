@@ -1,5 +1,7 @@
 #include "averaging/averaging_menu.h"
 
+#include "averaging/averaging_steps.h"
+#include "browser/file_lists.h"
 #include "browser/test_file.h"
 #include "launcher/program_runner.h"
 #include "launcher/starting.h"
@@ -17,19 +19,15 @@ enum Item { NewAverage, AddTrial, ComputeAverages, SubtractTrial, Help, ProgramO
 
 bool showHelp(Panel &panel)
 {
-    auto [kinovra, frm, platform] = panel.parts();
-
-    const QString text = u"average.txt"_s;
-    kinovra.Answer = browser::TestFile(panel, kinovra.ProgDir, text, browser::ShowMessage);
-    if (kinovra.Answer != 0)
+    if (!hasHelpText(panel))
         return false;
-    kinovra.ViewerFile = kinovra.ProgDir + u'\\' + text;
+    panel.kinovra.ViewerFile = panel.kinovra.ProgDir + u'\\' + QString::fromUtf16(HelpText);
     panel.viewer.show();
     return true;
 }
 
 // False where the user wants to choose another file.
-bool hasBinaryFile(Panel &panel)
+bool acceptsBinaryFile(Panel &panel)
 {
     auto [kinovra, frm, platform] = panel.parts();
 
@@ -41,14 +39,11 @@ bool hasBinaryFile(Panel &panel)
                 "another file or Cancel to quit."_s,
                 platform::Icon::Question, platform::Buttons::YesNoCancel, title});
     kinovra.TaskId = answer;
-    if (answer == platform::Yes) {
-        kinovra.BinaryFile = kinovra.CurrentTrial + u".pj"_s;
+    if (answer == platform::Yes)
         return true;
-    }
     shell::MsgBox(panel, {u"Select binary data file from Binary output listbox."_s, platform::Icon::None,
                           platform::Buttons::OKOnly, title});
-    frm.filBinaries.Visible = true;
-    frm.lblBinaries.Visible = true;
+    showBinaryFiles(panel);
     return false;
 }
 
@@ -56,19 +51,16 @@ void runOnBinaryFile(Panel &panel, int index)
 {
     auto [kinovra, frm, platform] = panel.parts();
 
-    const bool takesDefault = kinovra.BinaryFile.isEmpty();
-    if (!hasBinaryFile(panel))
+    if (!acceptsBinaryFile(panel))
         return;
-    const QString chosen = kinovra.BinaryFile;
+    const DefaultBinaryFile file(panel);
     if (index == AddTrial)
-        panel.newAverage.comFilenames.AddItem(chosen);
-    kinovra.ProgName = u"Average"_s;
-    frm.ProgPath = launcher::packageProgram(panel, kinovra.ProgName);
+        panel.newAverage.comFilenames.AddItem(kinovra.BinaryFile);
+    frm.ProgPath = chooseAverage(panel);
     frm.Comm = kinovra.ListingSwitch + CommandText(index == SubtractTrial ? "/S " : "")
-               + CommandText::document(chosen);
+               + CommandText::document(kinovra.BinaryFile);
     kinovra.Answer = launcher::RunProgram(panel, frm.ProgPath, frm.Comm, 1);
-    if (takesDefault && kinovra.BinaryFile == chosen)
-        sayBinaryFile(panel);
+    file.tell();
 }
 
 void computeAverages(Panel &panel)
@@ -76,7 +68,7 @@ void computeAverages(Panel &panel)
     const bool wasChosen = !panel.kinovra.BinaryFile.isEmpty();
     panel.kinovra.BinaryFile.clear();
     if (wasChosen)
-        sayBinaryFile(panel);
+        browser::sayBinaryFile(panel);
     panel.newAverage.show();
 }
 
@@ -110,21 +102,13 @@ void mnuAverage_Click(Panel &panel, int index)
             launcher::RunProgram(panel, launcher::packageProgram(panel, u"average"_s), u" /?"_s, 1);
         break;
     case Help:
-        if (showHelp(panel))
-            break;
-        runOnBinaryFile(panel, index);
+        if (!showHelp(panel))
+            runOnBinaryFile(panel, index);
         break;
     default:
         runOnBinaryFile(panel, index);
         break;
     }
-}
-
-void sayBinaryFile(Panel &panel)
-{
-    const QString &file = panel.kinovra.BinaryFile;
-    shell::sayToo(panel, file.isEmpty() ? u"No binary file is chosen now."_s
-                                        : u"The binary file is %1 now."_s.arg(file));
 }
 
 } // namespace averaging

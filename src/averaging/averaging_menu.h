@@ -14,7 +14,4 @@ void enableAveraging(Panel &panel);
 /// meant.
 void mnuAverage_Click(Panel &panel, int index);
 
-/// Says which binary file is chosen now: a command has changed it, and not the user's click.
-void sayBinaryFile(Panel &panel);
-
 } // namespace averaging

@@ -1,9 +1,7 @@
 #include "averaging/options_dialog.h"
 
-#include "averaging/averaging_menu.h"
-#include "browser/test_file.h"
+#include "averaging/averaging_steps.h"
 #include "launcher/program_runner.h"
-#include "launcher/starting.h"
 #include "shell/dispatch.h"
 
 #include <QScopedValueRollback>
@@ -48,12 +46,6 @@ void run(Panel &panel, const QString &switches)
     dialog.Visible = false;
 }
 
-void chooseProgram(Panel &panel)
-{
-    panel.kinovra.ProgName = u"Average"_s;
-    panel.newAverage.AverageProgram = launcher::packageProgram(panel, panel.kinovra.ProgName);
-}
-
 } // namespace
 
 void Form_Load(Panel &panel)
@@ -68,8 +60,8 @@ void Form_Activate(Panel &panel)
     frmNewAverage &dialog = panel.newAverage;
     const QString &file = panel.kinovra.BinaryFile;
 
-    dialog.txtBinary.Text = file;
     if (!file.isEmpty()) {
+        dialog.txtBinary.Text = file;
         dialog.comFilenames.Clear();
         dialog.comFilenames.AddItem(u"Click to View"_s);
         dialog.comFilenames.AddItem(file);
@@ -91,27 +83,20 @@ void txtBinary_Click(Panel &panel)
     shell::MsgBox(panel, {u"To change the input data file press the Cancel button and"_s + frm.LineBreak
                               + u"select a file from the Binary output list."_s,
                           platform::Icon::Information});
-    frm.filBinaries.Visible = true;
-    frm.lblBinaries.Visible = true;
+    showBinaryFiles(panel);
 }
 
 void cmdOK_Click(Panel &panel)
 {
-    auto [kinovra, frm, platform] = panel.parts();
-
     QString switches = u"/I "_s;
     for (const SwitchBox &row : AddingSwitches) {
         if ((panel.newAverage.*row.box).Value)
             switches += QLatin1String(row.text);
     }
-    chooseProgram(panel);
-    const bool takesDefault = kinovra.BinaryFile.isEmpty();
-    if (takesDefault)
-        kinovra.BinaryFile = kinovra.CurrentTrial + u".pj"_s;
-    const QString chosen = kinovra.BinaryFile;
+    panel.newAverage.AverageProgram = chooseAverage(panel);
+    const DefaultBinaryFile file(panel);
     run(panel, switches);
-    if (takesDefault && kinovra.BinaryFile == chosen)
-        sayBinaryFile(panel);
+    file.tell();
 }
 
 void cmdAverage_Click(Panel &panel)
@@ -127,7 +112,7 @@ void cmdAverage_Click(Panel &panel)
         switches += QLatin1String(ConfidenceSwitches[static_cast<size_t>(chosen - options.begin())]);
     if (panel.newAverage.chkAVrow.Value)
         switches += u"/R ";
-    chooseProgram(panel);
+    panel.newAverage.AverageProgram = chooseAverage(panel);
     run(panel, switches);
 }
 
@@ -138,12 +123,8 @@ void cmdDefault_Click(Panel &panel)
 
 void cmdHelp_Click(Panel &panel)
 {
-    auto [kinovra, frm, platform] = panel.parts();
-
-    const QString text = u"average.txt"_s;
-    kinovra.SelectedFile = kinovra.ProgDir + u'\\' + text;
-    kinovra.Answer = browser::TestFile(panel, kinovra.ProgDir, text, browser::ShowMessage);
-    if (kinovra.Answer == 0)
+    panel.kinovra.SelectedFile = panel.kinovra.ProgDir + u'\\' + QString::fromUtf16(HelpText);
+    if (hasHelpText(panel))
         panel.viewer.show();
 }
 

@@ -34,7 +34,10 @@ void becomeDataDirectory(Panel &panel)
     platform.files.changeDirectory(path);
     kinovra.CurrentTrial.clear();
     kinovra.CurrentExtension.clear();
+    const bool hadBinaryFile = !kinovra.BinaryFile.isEmpty();
     kinovra.BinaryFile.clear();
+    if (hadBinaryFile)
+        sayBinaryFile(panel);
     frm.SelectedPlot.clear();
     frm.lblTrial.Caption = u"none"_s;
     frm.lblPath.Caption = platform::LCase(kinovra.DataDir);

@@ -92,6 +92,13 @@ void refreshResultLists(Panel &panel)
     refresh(panel, {&frm.filBinaries, &frm.filOutputs, &frm.filPlots});
 }
 
+void sayBinaryFile(Panel &panel)
+{
+    const QString &file = panel.kinovra.BinaryFile;
+    shell::sayToo(panel, file.isEmpty() ? u"No binary file is chosen now."_s
+                                        : u"The binary file is %1 now."_s.arg(file));
+}
+
 void cmdRefresh_Click(Panel &panel)
 {
     auto [kinovra, frm, platform] = panel.parts();

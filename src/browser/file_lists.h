@@ -23,6 +23,10 @@ void refresh(Panel &panel, std::initializer_list<FileList *> lists);
 /// Refreshes the lists in which results show up: binaries, outputs, plots.
 void refreshResultLists(Panel &panel);
 
+/// Says in the status bar which binary file is chosen now: a command has changed it, and not the user's
+/// click.
+void sayBinaryFile(Panel &panel);
+
 /// The Refresh button and Ctrl+R: shows and refreshes all lists.
 void cmdRefresh_Click(Panel &panel);
 

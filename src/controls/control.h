@@ -69,19 +69,23 @@ void choose(Options &options, std::size_t index)
         options[i].Value = i == index;
 }
 
-/// A text field or page that the user reads. Places and sizes are in twips, the font's size in points.
+/// A field with a text.
 struct TextBox : Control
 {
     QProperty<QString> Text;
-    QProperty<int> Left{0};
+    Event Click;
+};
+
+/// A page of text to read. Places and sizes are in twips, the font's size in points.
+struct TextPage : TextBox
+{
     QProperty<int> Top{0};
     QProperty<int> Width{0};
     QProperty<int> Height{0};
-    QProperty<int> FontSize{10};
+    QProperty<int> FontSize{12};
     QProperty<bool> FontBold{false};
     QProperty<platform::Colour> BackColor{platform::White};
     QProperty<platform::Colour> ForeColor{platform::Black};
-    Event Click;
 };
 
 /// A drop-down list of texts.

@@ -2,6 +2,7 @@
 
 #include "browser/file_lists.h"
 #include "graphs/output_devices.h"
+#include "shell/connect_items.h"
 
 namespace graphs {
 
@@ -20,10 +21,8 @@ void connect(shell::Panel &panel)
 {
     auto &frm = panel.frm;
     frm.cmdSelectGra.Click = [&panel] { cmdSelectGra_Click(panel); };
-    for (int i = 0; i < 4; ++i) {
-        frm.mnuListing[static_cast<size_t>(i)].Click = [&panel, i] { mnuListing_Click(panel, i); };
-        frm.mnuGraphics[static_cast<size_t>(i)].Click = [&panel, i] { mnuGraphics_Click(panel, i); };
-    }
+    shell::connectItems(panel, frm.mnuListing, mnuListing_Click);
+    shell::connectItems(panel, frm.mnuGraphics, mnuGraphics_Click);
 }
 
 } // namespace graphs

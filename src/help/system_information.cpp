@@ -105,7 +105,7 @@ std::optional<QString> findTool(Panel &panel)
 void StartSysInfo(Panel &panel)
 {
     const auto path = findTool(panel);
-    if (!path || launcher::startDirectly(panel, *path, {}, platform::Show::Normal) == 0)
+    if (!path || path->isEmpty() || launcher::startDirectly(panel, *path, {}, platform::Show::Normal) == 0)
         shell::MsgBox(panel, {u"System information is unavailable at this time."_s});
 }
 

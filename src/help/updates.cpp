@@ -15,9 +15,6 @@ namespace {
 
 using platform::Buttons;
 using platform::Icon;
-using platform::Show;
-
-constexpr char16_t TwoLineBreaks[] = u"\r\n\r\n";
 
 platform::Answer ask(Panel &panel, const QString &text, Buttons buttons, const QString &title)
 {
@@ -40,11 +37,10 @@ void download(Panel &panel, const QString &exitTitle)
 {
     auto [kinovra, frm, platform] = panel.parts();
 
-    const platform::Answer exit =
-        ask(panel,
-            u"To use the new version you must exit and reload "_s + kinovra.ProgName + u'.'
-                + QString::fromUtf16(TwoLineBreaks) + u"Do you want to exit now?"_s,
-            Buttons::YesNo, exitTitle);
+    const platform::Answer exit = ask(panel,
+                                      u"To use the new version you must exit and reload "_s + kinovra.ProgName
+                                          + u".\r\n\r\nDo you want to exit now?"_s,
+                                      Buttons::YesNo, exitTitle);
     // Whatever the answer; that is meant.
     kinovra.TaskId = launcher::openAddress(panel, downloadAddress(kinovra), kinovra.ProgDir);
     if (exit == platform::Yes)
@@ -57,12 +53,11 @@ void checkForUpdate(Panel &panel)
 {
     auto [kinovra, frm, platform] = panel.parts();
 
-    const QString breaks = QString::fromUtf16(TwoLineBreaks);
     const platform::Answer answer =
         ask(panel,
-            u"The current version of "_s + kinovra.ProgName + u" is "_s + kinovra.VersionText + u'.' + breaks
-                + u"Do you want download a new version?"_s + breaks
-                + u"Press Yes to download now or No to continue using the current version."_s,
+            u"The current version of "_s + kinovra.ProgName + u" is "_s + kinovra.VersionText
+                + u".\r\n\r\nDo you want download a new version?\r\n\r\n"
+                  "Press Yes to download now or No to continue using the current version."_s,
             Buttons::YesNo, u"Update "_s + kinovra.ProgName + u" Yes/No?"_s);
     if (answer == platform::Yes)
         download(panel, u"Exit?"_s);
@@ -72,8 +67,8 @@ void cmdUpgrade_Click(Panel &panel)
 {
     const platform::Answer answer =
         ask(panel,
-            u"Do you want download a new version from the web?"_s + QString::fromUtf16(TwoLineBreaks)
-                + u"Press OK to download now or press Cancel to continue using this version ["_s
+            u"Do you want download a new version from the web?\r\n\r\n"
+            "Press OK to download now or press Cancel to continue using this version ["_s
                 + panel.kinovra.VersionText + u"]."_s,
             Buttons::OKCancel, u"Exit or Continue?"_s);
     if (answer == platform::OK)

@@ -6,6 +6,7 @@
 #include "launcher/program_runner.h"
 #include "launcher/progress_chart.h"
 #include "launcher/starting.h"
+#include "shell/connect_items.h"
 #include "shell/dispatch.h"
 
 using namespace Qt::StringLiterals;
@@ -99,8 +100,7 @@ void mnuProgHelp_Click(Panel &panel)
 void connect(Panel &panel)
 {
     auto &frm = panel.frm;
-    for (int i = 0; i < static_cast<int>(frm.mnuProg.size()); ++i)
-        frm.mnuProg[static_cast<size_t>(i)].Click = [&panel, i] { mnuProg_Click(panel, i); };
+    shell::connectItems(panel, frm.mnuProg, mnuProg_Click);
     frm.mnuProgs.Opening = [&panel] { mnuProgs_Click(panel); };
     frm.mnuProgs.AsksOnOpening = [&panel] { return mnuProgs_asks(panel); };
     frm.mnuProgs.OpensAfterAsking = true;

@@ -15,10 +15,9 @@ using platform::Ending;
 using platform::Target;
 using shell::RunningProgram;
 
-// As the user knows it.
-QString nameOf(const platform::Start &request)
+QString nameForUser(const platform::Start &request)
 {
-    if (!request.file.isEmpty())
+    if (request.target != Target::Document || !request.file.isEmpty())
         return platform::nameOf(request.file);
     const QString &directory = request.directory;
     return platform::nameOf(directory.endsWith(u'\\') ? directory.chopped(1) : directory);
@@ -27,7 +26,7 @@ QString nameOf(const platform::Start &request)
 double start(Panel &panel, const platform::Start &request)
 {
     const platform::StartResult result = panel.platform.programs.start(request);
-    const QString name = nameOf(request);
+    const QString name = nameForUser(request);
     const bool isProgram = request.target == Target::Program;
     if (result.failure.isEmpty()) {
         panel.running.push_back({result.value, name, isProgram, QString(), std::nullopt});

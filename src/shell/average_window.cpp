@@ -8,7 +8,7 @@ frmNewAverage::frmNewAverage()
 {
     Caption = u"Ensemble Averaging Options"_s;
     Width = 8700;
-    Height = FullAverageHeight;
+    Height = CompactAverageHeight;
     lblBinary.Caption = u"Binary data file:"_s;
     txtBinary.Text = u"binary"_s;
     txtBinary.ToolTip = u"Name of selected binary data file"_s;

@@ -17,7 +17,7 @@ struct RunningProgram
 {
     double value;    ///< what its start gave
     QString name;    ///< as the user knows it, such as "KINEMATI"
-    bool isProgram;  ///< the user started it, and not a document that it opens
+    bool isProgram;  ///< it was started itself, and not for a document or a web address
     QString listing; ///< full path of the listing it may write; empty for none
     std::optional<platform::FileStamp> listingBefore; ///< the listing at the moment of the start
 };

@@ -11,7 +11,7 @@ struct frmViewer : controls::Window
 {
     frmViewer();
 
-    controls::TextBox txtViewer;
+    controls::TextPage txtViewer;
     controls::CommonDialog dlgViewer;
 
     controls::MenuItem mnuFile, mnuOpen, mnuExit;

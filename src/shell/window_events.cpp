@@ -2,6 +2,7 @@
 
 #include "browser/file_lists.h"
 #include "help/help_menu.h"
+#include "shell/connect_items.h"
 #include "shell/shut_down.h"
 #include "shell/start_up.h"
 
@@ -71,8 +72,7 @@ void connect(Panel &panel)
     frm.KeyUp = [&panel](int keyCode, int shift) { Form_KeyUp(panel, keyCode, shift); };
     frm.cmdExit.Click = [&panel] { cmdExit_Click(panel); };
     frm.mnuExit.Click = [&panel] { mnuExit_Click(panel); };
-    for (int i = 0; i < 2; ++i)
-        frm.mnuUser[static_cast<size_t>(i)].Click = [&panel, i] { mnuUser_Click(panel, i); };
+    connectItems(panel, frm.mnuUser, mnuUser_Click);
 }
 
 } // namespace shell

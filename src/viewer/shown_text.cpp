@@ -1,5 +1,7 @@
 #include "viewer/shown_text.h"
 
+#include <algorithm>
+
 namespace viewer {
 
 namespace {
@@ -28,14 +30,13 @@ char16_t picture(char16_t unit)
     return unit >= 0x80 && unit <= 0x9F ? char16_t(QChar::ReplacementCharacter) : unit;
 }
 
-// A carriage return that ends no line: in front of the line feed, of another one in front of it (files that
-// were converted twice), and at the end of the text.
-bool isLeftOver(const QString &text, qsizetype at)
+// The carriage returns from `at` on.
+qsizetype returnsAt(const QString &text, qsizetype at)
 {
-    qsizetype next = at + 1;
-    while (next < text.size() && text.at(next) == u'\r')
-        ++next;
-    return next < text.size() ? text.at(next) == u'\n' : at + 1 == text.size();
+    qsizetype end = at;
+    while (end < text.size() && text.at(end) == u'\r')
+        ++end;
+    return end - at;
 }
 
 } // namespace
@@ -50,8 +51,13 @@ QString shownText(const QString &text)
     for (qsizetype i = 0; i < size; ++i) {
         const char16_t unit = text.at(i).unicode();
         if (unit == u'\r') {
-            if (!isLeftOver(text, i))
-                *out++ = u'\n';
+            // In front of a line feed they end no line of their own, however many they are (files that were
+            // converted twice), nor does the one that is left over at the end.
+            const qsizetype returns = returnsAt(text, i);
+            const qsizetype next = i + returns;
+            const qsizetype lines = next == size ? returns - 1 : unitAt(next) == u'\n' ? 0 : returns;
+            out = std::fill_n(out, lines, QChar(u'\n'));
+            i = next - 1;
         } else if (endsLine(unit)) {
             *out++ = u'\n';
         } else if (unit == FormFeed) {

@@ -9,6 +9,7 @@
 #include "viewer/shown_text.h"
 
 #include <array>
+#include <new>
 
 using namespace Qt::StringLiterals;
 
@@ -126,8 +127,8 @@ void fillHowToText(Panel &panel)
 
     for (size_t topic = 1; topic < kinovra.HowToText.size(); ++topic) {
         try {
-            const auto file = platform.files.openFile(
-                u"%1\\howto%2.txt"_s.arg(kinovra.ProgDir).arg(topic, 2, 10, QChar(u'0')));
+            const QString name = u"\\howto%1.txt"_s.arg(topic, 2, 10, QChar(u'0'));
+            const auto file = platform.files.openFile(kinovra.ProgDir + name);
             kinovra.HowToText[topic] = shownText(readText(*file));
         } catch (const RuntimeError &) {
             kinovra.HowToText[topic].clear();
@@ -141,7 +142,6 @@ void Form_Load(Panel &panel)
 {
     shell::frmViewer &viewer = panel.viewer;
 
-    fillHowToText(panel);
     viewer.txtViewer.BackColor = panel.screen.PageColour;
     viewer.txtViewer.ForeColor = panel.screen.TextColour;
     viewer.txtViewer.FontSize = FontSizes[Small].points;
@@ -149,6 +149,7 @@ void Form_Load(Panel &panel)
     viewer.Top = (panel.screen.Height - viewer.Height) / 2;
     viewer.Left = (panel.screen.Width - viewer.Width) / 2;
     viewer.Width = OpenedWidth;
+    fillHowToText(panel);
 }
 
 void Form_Activate(Panel &panel)
@@ -197,6 +198,7 @@ void mnuOpen_Click(Panel &panel)
 void mnuExit_Click(Panel &panel)
 {
     panel.viewer.Visible = false;
+    panel.platform.files.changeDrive(panel.kinovra.DataDir);
     panel.platform.files.changeDirectory(panel.kinovra.DataDir);
 }
 
@@ -232,6 +234,7 @@ void mnuColours_Click(Panel &panel, int index)
     }
 }
 
+// Not all of these come up; that is meant.
 void ReportViewerError(Panel &panel, qint16 index)
 {
     platform::MessageBox box{

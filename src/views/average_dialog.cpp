@@ -183,12 +183,23 @@ void AverageDialog::fitFont()
 
 bool AverageDialog::fits() const
 {
+    // They would hear of the font in their own time, one after the other.
+    for (QLayout *layout : findChildren<QLayout *>())
+        layout->invalidate();
     const int width = toPixels(frm_.Width) - 2 * Margin;
     const QSize upper = upper_->layout()->totalMinimumSize();
     const QSize lower = lower_->layout()->totalMinimumSize();
     return std::max(upper.width(), lower.width()) <= width
            && upper.height() + 2 * Margin <= toPixels(shell::CompactAverageHeight)
            && upper.height() + lower.height() + Gap + 2 * Margin <= toPixels(shell::FullAverageHeight);
+}
+
+bool AverageDialog::event(QEvent *event)
+{
+    const bool handled = QDialog::event(event);
+    if (event->type() == QEvent::ApplicationFontChange)
+        fitFont();
+    return handled;
 }
 
 void AverageDialog::reject()

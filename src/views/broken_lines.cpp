@@ -1,10 +1,11 @@
 #include "views/broken_lines.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace views {
 
-BrokenLines::BrokenLines(const QString &text) : text_(text)
+BrokenLines::BrokenLines(QString text) : text_(std::move(text))
 {
     qsizetype lineStart = 0;
     const QStringView view(text_);

@@ -13,7 +13,7 @@ class BrokenLines
 public:
     static constexpr qsizetype LongestLine = 8192;
 
-    explicit BrokenLines(const QString &text = {});
+    explicit BrokenLines(QString text = {});
 
     const QString &text() const { return text_; }
     const QString &broken() const { return broken_; }

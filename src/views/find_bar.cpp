@@ -2,6 +2,7 @@
 
 #include "views/text_page.h"
 
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -14,6 +15,8 @@ namespace views {
 namespace {
 
 constexpr int Margin = 4;
+constexpr qsizetype LongestProposal = 200;
+const QString NotFound = u"Not found"_s;
 
 } // namespace
 
@@ -36,19 +39,22 @@ FindBar::FindBar(TextPage *page) : page_(page), wanted_(new QLineEdit), result_(
         button->setAutoDefault(true);
     connect(wanted_, &QLineEdit::textEdited, this,
             [this](const QString &text) { tell(text.isEmpty() || page_->findFromSelection(text)); });
-    connect(wanted_, &QLineEdit::returnPressed, this, [this] { goOn(false); });
+    connect(wanted_, &QLineEdit::returnPressed, this,
+            [this] { goOn(QGuiApplication::keyboardModifiers().testFlag(Qt::ShiftModifier)); });
     connect(next, &QPushButton::clicked, this, [this] { goOn(false); });
     connect(previous, &QPushButton::clicked, this, [this] { goOn(true); });
     connect(closing, &QPushButton::clicked, this, &FindBar::close);
+    // Its place is kept, so that the buttons stay where they are.
+    result_->setMinimumWidth(result_->fontMetrics().horizontalAdvance(NotFound));
     hide();
 }
 
 void FindBar::open()
 {
     const QString selected = page_->selectedText();
-    if (!selected.isEmpty() && !selected.contains(u'\n'))
+    if (!selected.isEmpty() && selected.size() <= LongestProposal && !selected.contains(u'\n'))
         wanted_->setText(selected);
-    tell(true);
+    forget();
     show();
     wanted_->selectAll();
     wanted_->setFocus();
@@ -60,17 +66,26 @@ void FindBar::close()
     page_->setFocus();
 }
 
+void FindBar::forget()
+{
+    tell(true);
+}
+
 void FindBar::goOn(bool backwards)
 {
-    if (wanted_->text().isEmpty())
+    if (wanted_->text().isEmpty()) {
         open();
-    else
-        tell(page_->find(wanted_->text(), backwards));
+        return;
+    }
+    const bool found = page_->find(wanted_->text(), backwards);
+    if (!found && isHidden())
+        open();
+    tell(found);
 }
 
 void FindBar::tell(bool found)
 {
-    result_->setText(found ? QString() : u"Not found"_s);
+    result_->setText(found ? QString() : NotFound);
 }
 
 } // namespace views

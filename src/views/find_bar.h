@@ -23,6 +23,9 @@ public:
     /// Hides the bar; the page has the focus.
     void close();
 
+    /// The page shows another text: what was said of the last one is no longer so.
+    void forget();
+
     /// Goes on to the next place, or the one before; opens the bar where nothing was looked for yet.
     void goOn(bool backwards);
 

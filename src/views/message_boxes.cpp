@@ -2,12 +2,12 @@
 
 #include "platform/display_text.h"
 #include "shell/kinovra.h"
+#include "views/main_window.h"
 #include "views/menus.h"
 
 #include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
-#include <QMainWindow>
 #include <QMessageBox>
 
 using namespace Qt::StringLiterals;
@@ -77,13 +77,15 @@ bool isPattern(const QString &fileName)
     return fileName.contains(u'*') || fileName.contains(u'?');
 }
 
-// The window that a box belongs to. While another program is the active one, that is the main window.
+// The window that a box belongs to: the active one. While another program is active, or the active window has
+// been minimized and its box would go with it, that is the main window.
 QWidget *owner()
 {
-    if (QWidget *active = QApplication::activeWindow())
+    QWidget *active = QApplication::activeWindow();
+    if (active != nullptr && !active->isMinimized())
         return active;
     for (QWidget *window : QApplication::topLevelWidgets()) {
-        if (window->isVisible() && qobject_cast<QMainWindow *>(window))
+        if (window->isVisible() && qobject_cast<MainWindow *>(window))
             return window;
     }
     return nullptr;

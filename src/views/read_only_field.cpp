@@ -13,7 +13,9 @@ ReadOnlyField::ReadOnlyField(QWidget *parent) : QLineEdit(parent)
 void ReadOnlyField::keyPressEvent(QKeyEvent *event)
 {
     const QString typed = event->text();
-    if (!typed.isEmpty() && typed.at(0).isPrint())
+    const bool isShortcut =
+        (event->modifiers() & (Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier)) != 0;
+    if (!isShortcut && !typed.isEmpty() && typed.at(0).isPrint())
         Q_EMIT clicked();
     else
         QLineEdit::keyPressEvent(event);

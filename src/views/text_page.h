@@ -2,13 +2,14 @@
 
 #include "views/broken_lines.h"
 
+#include <QElapsedTimer>
 #include <QPlainTextEdit>
 
 class QTimer;
 
 namespace views {
 
-/// A page of text to read: fixed pitch, nothing wrapped, up to 16 million characters and lines of any length.
+/// A page of text to read: fixed pitch, nothing wrapped, up to 16 million characters in lines of any length.
 /// The first screens of a long text appear at once, the rest while the window is already in use.
 class TextPage : public QPlainTextEdit
 {
@@ -16,6 +17,9 @@ class TextPage : public QPlainTextEdit
 
 public:
     explicit TextPage(QWidget *parent = nullptr);
+
+    /// Takes a font of fixed pitch; a tab leads to the next multiple of eight columns.
+    void useFont(const QFont &font);
 
     /// Shows `text` from its beginning.
     void showText(const QString &text);
@@ -34,15 +38,23 @@ protected:
     QMimeData *createMimeDataFromSelection() const override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void fill(qsizetype most);
-    void fillAll();
-    bool select(qsizetype from, qsizetype length);
+    void fillTo(qsizetype end);
+    void insertAtEnd(QString piece);
+    void countLines();
+    void select(qsizetype from, qsizetype length);
+    void selectLineAt(const QPoint &position);
 
     BrokenLines lines_;
     qsizetype filled_ = 0; ///< how much of the broken text is in the page
     QTimer *filling_;
+    QElapsedTimer sinceDoubleClick_;
+    QPoint doubleClickedAt_;
 };
 
 } // namespace views

@@ -23,7 +23,6 @@ namespace {
 // What the window has over its text box, in logical pixels.
 constexpr int WidthBesideText = 10;
 constexpr int HeightBesideText = 50;
-constexpr int TabColumns = 8;
 
 std::vector<MenuLine> menuLines(shell::frmViewer &frm)
 {
@@ -79,31 +78,35 @@ void TextViewerWindow::makeKeys()
     const auto onKey = [this](const QKeySequence &key, const std::function<void()> &action) {
         auto *shortcut = new QShortcut(key, this);
         connect(shortcut, &QShortcut::activated, this, action);
+        return shortcut;
     };
     onKey(Qt::CTRL | Qt::Key_F, [this] { findBar_->open(); });
     onKey(Qt::Key_F3, [this] { findBar_->goOn(false); });
     onKey(Qt::SHIFT | Qt::Key_F3, [this] { findBar_->goOn(true); });
+    // Held too long for the find bar, it must not close the window as well.
     onKey(Qt::Key_Escape, [this] {
         if (findBar_->isVisible())
             findBar_->close();
         else
             events_.run(frm_.mnuExit.Click);
-    });
+    })->setAutoRepeat(false);
 }
 
 void TextViewerWindow::bindText()
 {
     auto &text = frm_.txtViewer;
-    bindings_.follow(text.Text, [this, &text] { page_->showText(text.Text); });
+    bindings_.follow(text.Text, [this, &text] {
+        page_->showText(text.Text);
+        findBar_->forget();
+    });
     bindings_.follow(text.FontSize, [this] { useFont(); });
     bindings_.follow(text.FontBold, [this] { useFont(); });
     bindings_.follow(text.BackColor, [this] { useColours(); });
     bindings_.follow(text.ForeColor, [this] { useColours(); });
     const auto place = [this, &text] {
-        textBox_->setGeometry(toPixels(text.Left), toPixels(text.Top), toPixels(text.Width),
-                              toPixels(text.Height));
+        textBox_->setGeometry(0, toPixels(text.Top), toPixels(text.Width), toPixels(text.Height));
     };
-    for (QProperty<int> *value : {&text.Left, &text.Top, &text.Width, &text.Height})
+    for (QProperty<int> *value : {&text.Top, &text.Width, &text.Height})
         bindings_.follow(*value, place);
 }
 
@@ -119,7 +122,14 @@ void TextViewerWindow::bindWindow()
     bindings_.follow(frm_.Top, place);
     bindings_.follow(frm_.Width, [this] { followSize(); });
     bindings_.follow(frm_.Height, [this] { followSize(); });
-    bindings_.follow(frm_.Visible, [this] { setVisible(frm_.Visible); });
+    bindings_.follow(frm_.Visible, [this] {
+        // The next text begins without what was looked for in this one.
+        if (frm_.Visible)
+            page_->setFocus();
+        else
+            findBar_->close();
+        setVisible(frm_.Visible);
+    });
     frm_.ToFront = [this] { activation_.showAgain(); };
 }
 
@@ -138,8 +148,7 @@ void TextViewerWindow::useFont()
     font.setStyleHint(QFont::Monospace);
     font.setFixedPitch(true);
     font.setBold(frm_.txtViewer.FontBold);
-    page_->setFont(font);
-    page_->setTabStopDistance(TabColumns * QFontMetricsF(font).horizontalAdvance(u' '));
+    page_->useFont(font);
 }
 
 void TextViewerWindow::useColours()

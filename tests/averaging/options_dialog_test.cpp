@@ -7,7 +7,6 @@
 #include <gmock/gmock.h>
 
 using namespace Qt::StringLiterals;
-using platform::Buttons;
 using platform::CommandText;
 using platform::Icon;
 using platform::MessageBox;

@@ -23,7 +23,7 @@ const MessageBox Unavailable{u"System information is unavailable at this time."_
 
 QString zero()
 {
-    return QString(QChar(u'\0'));
+    return {QChar(u'\0')};
 }
 
 QString key(const char16_t *name)

@@ -143,3 +143,19 @@ TEST_F(Activations, of_a_window_that_is_hidden_at_once_are_dropped)
     QCoreApplication::processEvents();
     EXPECT_EQ(count, 0);
 }
+
+TEST_F(Activations, count_a_quick_return_after_a_showing)
+{
+    window.show();
+    activate(window);
+    window.hide();
+    other.show();
+    activate(other);
+    window.show();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(count, 2);
+    activate(window);
+    activate(other);
+    activate(window);
+    EXPECT_EQ(count, 3);
+}

@@ -230,7 +230,10 @@ TEST_F(AverageDialogView, the_files_name_cannot_be_changed)
     EXPECT_EQ(messages().size(), 2);
     EXPECT_TRUE(messages()[1].startsWith(u"To change the input data file press the Cancel button"));
     QTest::keyClick(file(), Qt::Key_Right);
-    QTest::mouseClick(file(), Qt::RightButton);
+    QTest::keyClick(file(), Qt::Key_Z, Qt::AltModifier);
+    QTest::keyClick(file(), Qt::Key_C, Qt::ControlModifier);
+    QTest::mousePress(file(), Qt::LeftButton);
+    QTest::mouseRelease(file(), Qt::LeftButton, Qt::NoModifier, QPoint(-20, 5));
     EXPECT_EQ(messages().size(), 2);
     EXPECT_EQ(file()->text(), u"other.pj"_s);
 }
@@ -260,4 +263,36 @@ TEST_F(AverageDialogView, all_texts_fit)
     }
     windows.reset();
     QApplication::setFont(before);
+}
+
+TEST_F(AverageDialogView, follows_the_desktops_font)
+{
+    showFor(QString());
+    const QFont before = QApplication::font();
+    QFont large = before;
+    large.setPointSize(18);
+    QApplication::setFont(large);
+    settle();
+    for (QAbstractButton *widget : dialog().findChildren<QAbstractButton *>())
+        EXPECT_GE(widget->width(), widget->minimumSizeHint().width()) << widget->text().toStdString();
+    QApplication::setFont(before);
+}
+
+TEST_F(AverageDialogView, comes_to_the_front_and_is_activated_again)
+{
+    showFor(u"other.pj"_s);
+    window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+    kinovra.BinaryFile = u"x.km"_s;
+    click(frm.mnuAverage[0]);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog()));
+    settle();
+    EXPECT_EQ(file()->text(), u"x.km"_s);
+}
+
+TEST_F(AverageDialogView, hides_nothing_in_the_files_name)
+{
+    showFor(u"a\u202Eb.pj"_s);
+    EXPECT_EQ(file()->text(), u"a\uFFFDb.pj"_s);
+    EXPECT_EQ(list()->itemText(1), u"a\uFFFDb.pj"_s);
 }

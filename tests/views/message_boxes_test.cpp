@@ -1,14 +1,16 @@
 #include "printing.h"
+#include "view_fixture.h"
 #include "views/message_boxes.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QComboBox>
 #include <QFileDialog>
 #include <QLineEdit>
-#include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
 
@@ -36,7 +38,7 @@ public:
     }
 };
 
-class MessageBoxViews : public testing::Test
+class MessageBoxViews : public support::ViewFixture
 {
 protected:
     template <typename Window>
@@ -58,24 +60,81 @@ protected:
         return boxes.message(box);
     }
 
+    void showViewer()
+    {
+        addFile(u"C:\\DATA\\a.txt"_s, "one\n");
+        kinovra.ViewerFile = u"C:\\DATA\\a.txt"_s;
+        viewer.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(windows->textViewer()));
+        settle();
+    }
+
+    const QWidget *ownerOfBox()
+    {
+        const QWidget *owner = nullptr;
+        whenShown<QMessageBox>([&owner](QMessageBox &box) {
+            owner = box.parentWidget();
+            box.accept();
+        });
+        boxes.message({u"text"_s});
+        return owner;
+    }
+
     PlainPaths paths;
     views::MessageBoxes boxes{paths};
 };
 
 } // namespace
 
+TEST_F(MessageBoxViews, belong_to_the_active_window)
+{
+    show();
+    showViewer();
+    EXPECT_EQ(ownerOfBox(), windows->textViewer());
+    window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+    EXPECT_EQ(ownerOfBox(), &window());
+}
+
 TEST_F(MessageBoxViews, belong_to_the_main_window_while_another_program_is_the_active_one)
 {
-    QMainWindow mainWindow;
-    mainWindow.show();
+    show();
+    showViewer();
     QApplication::setActiveWindow(nullptr);
-    const QWidget *owner = nullptr;
-    whenShown<QMessageBox>([&owner](QMessageBox &window) {
-        owner = window.parentWidget();
+    EXPECT_EQ(ownerOfBox(), &window());
+}
+
+TEST_F(MessageBoxViews, belong_to_the_main_window_where_the_active_one_is_minimized)
+{
+    show();
+    showViewer();
+    windows->textViewer()->showMinimized();
+    QApplication::setActiveWindow(windows->textViewer());
+    EXPECT_EQ(ownerOfBox(), &window());
+}
+
+TEST_F(MessageBoxViews, let_the_user_choose_a_colour)
+{
+    whenShown<QColorDialog>([](QColorDialog &dialog) {
+        EXPECT_EQ(dialog.currentColor(), QColor(0x12, 0x34, 0x56));
+        dialog.setCurrentColor(QColor(0xFE, 0xDC, 0x01));
+        dialog.accept();
+    });
+    EXPECT_EQ(boxes.chooseColour(0x123456), 0xFEDC01U);
+    whenShown<QColorDialog>([](QColorDialog &dialog) {
+        dialog.setCurrentColor(QColor(0xFE, 0xDC, 0x01));
+        dialog.reject();
+    });
+    EXPECT_EQ(boxes.chooseColour(0x123456), std::nullopt);
+}
+
+TEST_F(MessageBoxViews, break_lines_where_the_text_does)
+{
+    whenShown<QMessageBox>([](QMessageBox &window) {
+        EXPECT_EQ(window.text(), u"one\n\ntwo\nthree"_s);
         window.accept();
     });
-    boxes.message({u"text"_s});
-    EXPECT_EQ(owner, &mainWindow);
+    boxes.message({u"one\r\n\r\ntwo\nthree"_s});
 }
 
 TEST_F(MessageBoxViews, have_the_applications_title_without_one_of_their_own)

@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
@@ -12,6 +13,8 @@
 #include <QMenuBar>
 #include <QScrollBar>
 #include <QTest>
+#include <QTextBlock>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 using support::waitUntil;
@@ -402,4 +405,216 @@ TEST_F(TextViewerView, one_line_of_ten_megabytes_does_not_freeze_it)
     QTest::keyClick(page(), Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(page(), Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QApplication::clipboard()->text(), QString::fromLatin1(content.chopped(1)));
+}
+
+TEST_F(TextViewerView, sixteen_mebibytes_of_short_lines_do_not_freeze_it)
+{
+    const QByteArray content = QByteArray("1.234\n").repeated(16 * 1024 * 1024 / 6) + "x\n";
+    addFile(u"C:\\DATA\\a.txt"_s, content);
+    kinovra.ViewerFile = u"C:\\DATA\\a.txt"_s;
+    QElapsedTimer time;
+    time.start();
+    viewer.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&reader()));
+    settle();
+    EXPECT_GT(page()->blockCount(), 1);
+    QTest::keyClick(page(), Qt::Key_End, Qt::ControlModifier);
+    EXPECT_LT(time.elapsed(), 5000);
+    EXPECT_EQ(page()->document()->characterCount(), content.size());
+    EXPECT_EQ(page()->textCursor().position(), content.size() - 1);
+    EXPECT_EQ(page()->document()->lineCount(), 16 * 1024 * 1024 / 6 + 1);
+    EXPECT_NEAR(page()->verticalScrollBar()->value(), page()->verticalScrollBar()->maximum(), 1);
+}
+
+TEST_F(TextViewerView, scrolls_by_lines_however_they_are_kept)
+{
+    showContent(QByteArray("line\n").repeated(5000));
+    ASSERT_TRUE(waitUntil([this] { return page()->document()->characterCount() == 25'000; }));
+    EXPECT_LT(page()->blockCount(), 100);
+    EXPECT_EQ(page()->document()->lineCount(), 5000);
+    action(u"&Font"_s, u"&large"_s)->trigger();
+    EXPECT_EQ(page()->document()->lineCount(), 5000);
+    action(u"&Font"_s, u"&small"_s)->trigger();
+    const int visible = page()->verticalScrollBar()->pageStep();
+    EXPECT_NEAR(page()->verticalScrollBar()->maximum(), 5000 - visible, 2);
+    QTest::keyClick(page(), Qt::Key_Down);
+    EXPECT_EQ(page()->textCursor().position(), 5);
+    QTest::keyClick(page(), Qt::Key_PageDown);
+    EXPECT_GT(page()->textCursor().position(), 50);
+    QTest::keyClick(page(), Qt::Key_Home);
+    QTest::keyClick(page(), Qt::Key_End, Qt::ShiftModifier);
+    EXPECT_EQ(page()->selectedText(), u"line"_s);
+}
+
+TEST_F(TextViewerView, a_third_click_selects_a_line)
+{
+    showContent("one\ntwo words\nthree\n");
+    QTextCursor cursor = page()->textCursor();
+    cursor.setPosition(6);
+    const QPoint place = page()->cursorRect(cursor).center();
+    doubleClickAt(page()->viewport(), place);
+    EXPECT_EQ(page()->selectedText(), u"two"_s);
+    QTest::mouseClick(page()->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    EXPECT_EQ(page()->selectedText(), u"two words"_s);
+}
+
+TEST_F(TextViewerView, a_cursor_at_the_end_stays_while_the_text_arrives)
+{
+    const QByteArray content = QByteArray("12345678\n").repeated(200'000);
+    addFile(u"C:\\DATA\\a.txt"_s, content);
+    kinovra.ViewerFile = u"C:\\DATA\\a.txt"_s;
+    viewer.show();
+    settle();
+    ASSERT_LT(page()->document()->characterCount(), content.size());
+    QTextCursor cursor = page()->textCursor();
+    cursor.setPosition(10);
+    cursor.movePosition(QTextCursor::End, QTextCursor::KeepAnchor);
+    const int end = cursor.position();
+    page()->setTextCursor(cursor);
+    ASSERT_TRUE(waitUntil([&] { return page()->document()->characterCount() == content.size(); }));
+    EXPECT_EQ(page()->textCursor().anchor(), 10);
+    EXPECT_EQ(page()->textCursor().position(), end);
+}
+
+TEST_F(TextViewerView, what_means_the_whole_text_has_it_while_it_arrives)
+{
+    const QByteArray content = QByteArray("12345678\n").repeated(200'000);
+    const QString text = QString::fromLatin1(content.chopped(1));
+    const auto showAnew = [&] {
+        viewer.txtViewer.Text = QString();
+        showContent(content);
+        ASSERT_LT(page()->document()->characterCount(), content.size());
+    };
+    showAnew();
+    QTest::keyClick(page(), Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(page()->selectedText(), text);
+    showAnew();
+    QTest::keyClick(page(), Qt::Key_End, Qt::ControlModifier);
+    EXPECT_EQ(page()->textCursor().position(), text.size());
+    showAnew();
+    QTest::keyClick(page(), Qt::Key_End, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(page()->selectedText(), text);
+    showAnew();
+    QTimer::singleShot(0, [] {
+        if (QWidget *menu = QApplication::activePopupWidget())
+            menu->close();
+    });
+    QContextMenuEvent menu(QContextMenuEvent::Keyboard, QPoint(5, 5), QPoint(5, 5));
+    QCoreApplication::sendEvent(page()->viewport(), &menu);
+    page()->selectAll();
+    EXPECT_EQ(page()->selectedText(), text);
+}
+
+TEST_F(TextViewerView, backwards_finds_what_lies_in_front)
+{
+    showContent("aaaaa\n");
+    openFind(u"aa"_s);
+    EXPECT_EQ(selectionStart(), 0);
+    QTest::keyClick(wanted(), Qt::Key_Return);
+    EXPECT_EQ(selectionStart(), 2);
+    QTest::keyClick(wanted(), Qt::Key_Return, Qt::ShiftModifier);
+    EXPECT_EQ(selectionStart(), 0);
+    QTest::keyClick(wanted(), Qt::Key_F3, Qt::ShiftModifier);
+    EXPECT_EQ(selectionStart(), 3);
+}
+
+TEST_F(TextViewerView, says_that_nothing_is_found_where_the_bar_was_closed)
+{
+    showContent("one two\n");
+    openFind(u"twx"_s);
+    findButton(u"Close"_s)->click();
+    QTest::keyClick(page(), Qt::Key_F3);
+    EXPECT_TRUE(findBar()->isVisible());
+    EXPECT_EQ(result(), u"Not found"_s);
+}
+
+TEST_F(TextViewerView, begins_each_text_without_the_find_bar_of_the_last)
+{
+    showContent("one\n");
+    openFind(u"x"_s);
+    EXPECT_EQ(result(), u"Not found"_s);
+    reader().close();
+    window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+    showContent("x-ray\n");
+    EXPECT_FALSE(findBar()->isVisible());
+    EXPECT_EQ(QApplication::focusWidget(), page());
+    EXPECT_EQ(result(), QString());
+}
+
+TEST_F(TextViewerView, proposes_no_lines_to_find)
+{
+    showContent("one\ntwo\n");
+    QTest::keyClick(page(), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(page(), Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(wanted()->text(), QString());
+}
+
+TEST_F(TextViewerView, the_buttons_of_the_find_bar_work_by_keyboard)
+{
+    showContent("one one one\n");
+    openFind(u"one"_s);
+    QTest::keyClick(wanted(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), findButton(u"Next"_s));
+    QTest::keyClick(findButton(u"Next"_s), Qt::Key_Return);
+    EXPECT_EQ(selectionStart(), 4);
+    QTest::keyClick(findButton(u"Next"_s), Qt::Key_Tab);
+    QTest::keyClick(findButton(u"Previous"_s), Qt::Key_Return);
+    EXPECT_EQ(selectionStart(), 0);
+    QTest::keyClick(findButton(u"Close"_s), Qt::Key_Return);
+    EXPECT_FALSE(findBar()->isVisible());
+    QTest::keyClick(page(), Qt::Key_F, Qt::ControlModifier);
+    page()->setFocus();
+    QTest::keyClick(page(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), wanted()) << "Tab leads from the page to the bar";
+}
+
+TEST_F(TextViewerView, hides_nothing_in_its_title)
+{
+    const QString name = u"C:\\DATA\\a\u202Eb.txt"_s;
+    addFile(name, "one\n");
+    kinovra.ViewerFile = name;
+    viewer.show();
+    settle();
+    EXPECT_EQ(reader().windowTitle(), u"Text Viewer: C:\\DATA\\a\uFFFDb.txt"_s);
+}
+
+TEST_F(TextViewerView, is_one_window)
+{
+    showContent("one\n");
+    const auto *first = windows->textViewer();
+    click(viewer.mnuExit);
+    showContent("two\n");
+    EXPECT_EQ(windows->textViewer(), first);
+}
+
+TEST_F(TextViewerView, a_minimized_one_that_is_shown_again_is_there)
+{
+    showContent("one\n");
+    reader().showMinimized();
+    settle();
+    showContent("two\n");
+    EXPECT_FALSE(reader().isMinimized());
+    EXPECT_EQ(page()->toPlainText(), u"two"_s);
+}
+
+TEST_F(TextViewerView, choosing_the_checked_size_again_makes_it_bold_and_leaves_the_mark)
+{
+    showContent("one\n");
+    EXPECT_FALSE(page()->font().bold());
+    QAction *small = action(u"&Font"_s, u"&small"_s);
+    small->trigger();
+    EXPECT_TRUE(page()->font().bold());
+    EXPECT_TRUE(small->isChecked());
+}
+
+TEST_F(TextViewerView, follows_its_maximized_size)
+{
+    showContent("one\n");
+    reader().showMaximized();
+    settle();
+    EXPECT_EQ(page()->size(), reader().centralWidget()->size());
+    reader().showNormal();
+    settle();
+    EXPECT_EQ(page()->size(), reader().centralWidget()->size());
 }

@@ -119,10 +119,11 @@ StartResult LinuxPrograms::start(const Start &start)
     };
     try {
         const bool anywhere = start.target == Target::Address && start.directory.isEmpty();
-        const auto directory = anywhere ? QByteArray() : files_.hostDirectory(start.directory);
+        // The root: a browser that stays must not keep a data directory busy.
+        const auto directory = anywhere ? QByteArray("/") : files_.hostDirectory(start.directory);
         if (!directory)
             return failed(FileNotFound, u"the directory %1 is gone"_s.arg(start.directory));
-        if (!anywhere && ::access(directory->constData(), X_OK) != 0)
+        if (::access(directory->constData(), X_OK) != 0)
             return failed(AccessDenied, u"the directory %1 may not be entered"_s.arg(start.directory));
         const Command command = commandFor(start, *directory);
         if (!command.failure.isEmpty())

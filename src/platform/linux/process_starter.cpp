@@ -26,8 +26,7 @@ public:
     explicit SpawnSettings(const QByteArray &directory)
     {
         posix_spawn_file_actions_init(&actions_);
-        if (!directory.isEmpty())
-            posix_spawn_file_actions_addchdir_np(&actions_, directory.constData());
+        posix_spawn_file_actions_addchdir_np(&actions_, directory.constData());
         posix_spawn_file_actions_addopen(&actions_, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
         posix_spawn_file_actions_addopen(&actions_, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
         posix_spawn_file_actions_adddup2(&actions_, STDOUT_FILENO, STDERR_FILENO);

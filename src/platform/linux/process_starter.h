@@ -24,9 +24,9 @@ public:
     ProcessStarter(const ProcessStarter &) = delete;
     ProcessStarter &operator=(const ProcessStarter &) = delete;
 
-    /// Starts `arguments` (the program first, with its full path) in `directory` (empty for the current one),
-    /// in a session of its own and with no input. `ended` is called from the event loop when it has ended.
-    /// The result is 0, or the system's error.
+    /// Starts `arguments` (the program first, with its full path) in `directory`, in a session of its own and
+    /// with no input. `ended` is called from the event loop when it has ended. The result is 0, or the
+    /// system's error.
     int start(const QList<QByteArray> &arguments, const QByteArray &directory,
               std::function<void(const Ending &)> ended);
 

@@ -613,22 +613,10 @@ TEST_F(LinuxDocuments, that_are_no_secure_addresses_are_refused)
 
 TEST_F(LinuxDocuments, that_are_addresses_need_no_directory)
 {
-    scratch.makeDirectory("doomed");
-    files.changeDrive(base);
-    files.changeDirectory(at(u"doomed"_s));
     Start start = address(u"https://example.org/"_s);
     start.directory.clear();
-    EXPECT_EQ(run(start), (QList<QByteArray>{scratch.path("doomed"), scratch.path("bin/xdg-open"),
-                                             "https://example.org/"}));
-
-    scratch.remove("doomed");
-    scratch.remove("record");
-    // The echo program would have to know where it is.
-    scratch.makeExecutable("bin/xdg-open", "#!/bin/sh\nprintf '%s' \"$*\" >\"$ECHO_FILE\"\n");
-    result = programs.start(start);
-    EXPECT_EQ(result.failure, QString());
-    waitForEnd();
-    EXPECT_EQ(scratch.read("record"), "https://example.org/");
+    // A browser that stays open keeps no data directory busy.
+    EXPECT_EQ(run(start), (QList<QByteArray>{"/", scratch.path("bin/xdg-open"), "https://example.org/"}));
 
     start.directory = at(u"gone"_s);
     EXPECT_EQ(programs.start(start).failure, u"the directory "_s + at(u"gone"_s) + u" is gone"_s);
