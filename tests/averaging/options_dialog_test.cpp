@@ -174,6 +174,17 @@ TEST_F(OptionsDialog, is_loaded_once)
     EXPECT_EQ(newAverage.comFilenames.ListCount(), 0);
 }
 
+TEST_F(OptionsDialog, a_run_hides_it_without_forgetting_it)
+{
+    for (controls::Button *button : {&newAverage.cmdOK, &newAverage.cmdAverage}) {
+        openFor(u"Other.pj"_s);
+        click(*button);
+        newAverage.comFilenames.Clear();
+        openFor(QString());
+        EXPECT_EQ(newAverage.comFilenames.ListCount(), 0) << "it is not loaded again";
+    }
+}
+
 TEST_F(OptionsDialog, never_enables_ok_again)
 {
     openFor(QString());
@@ -275,6 +286,18 @@ TEST_F(OptionsDialog, ok_without_a_file_takes_the_trials_own)
     EXPECT_EQ(kinovra.BinaryFile, u"TRIAL1.pj"_s);
     EXPECT_EQ(newAverage.AverageCommand.text(), u"/I /A /M /P /W TRIAL1.pj"_s);
     EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"The binary file is TRIAL1.pj now."_s);
+}
+
+TEST_F(OptionsDialog, a_file_that_the_user_chooses_meanwhile_is_not_announced)
+{
+    openFor(QString());
+    newAverage.cmdOK.Enabled = true;
+    frm.mnuPrompt.Checked = true;
+    machine.dialogs.answers = {platform::No};
+    machine.clock.duringPause(0.5, [this] { click(frm.filBinaries, u"Other.pj"_s); });
+    click(newAverage.cmdOK);
+    EXPECT_EQ(kinovra.BinaryFile, u"Other.pj"_s);
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(), QString());
 }
 
 // By confidence level, without and with row-wise printing.
@@ -396,6 +419,9 @@ TEST_F(OptionsDialog, its_buttons_wait_while_its_own_run_is_in_progress)
             EXPECT_TRUE(newAverage.Visible);
             EXPECT_FALSE(viewer.Visible);
             EXPECT_EQ(options(), u"------0"_s);
+            shell::dispatch(panel, newAverage.txtBinary.Click);
+            EXPECT_EQ(messages().size(), 1) << "the field is no button";
+            machine.dialogs.answers = {platform::No};
         });
         click(*first);
         EXPECT_EQ(machine.programs.started.size(), 1U);

@@ -272,3 +272,14 @@ TEST_F(Directories, of_a_drive_that_was_pulled_out_are_reported)
     EXPECT_EQ(messages(), QStringList{u"There was a drive problem.\nError was: Device unavailable"_s});
     EXPECT_EQ(frm.drvDrives.Drive.value(), u"c: [data]"_s);
 }
+
+TEST_F(Directories, opened_say_that_no_binary_file_is_chosen_any_more)
+{
+    click(frm.filBinaries, u"run1.km"_s);
+    open(u"C:\\"_s);
+    EXPECT_EQ(kinovra.BinaryFile, QString());
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"No binary file is chosen now."_s);
+    frm.StatusBar1.Panel1 = QString();
+    open(u"C:\\Trials"_s);
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(), QString());
+}

@@ -107,6 +107,39 @@ TEST_F(AboutWindow, a_click_on_the_photograph_hides_it_alone)
     EXPECT_EQ(about.Height.value(), height);
 }
 
+TEST_F(AboutWindow, shows_the_photograph_again_when_it_comes_back)
+{
+    show();
+    click(about.cmdAuthor);
+    shell::dispatch(panel, about.picRell.Click);
+    comeBack(about);
+    EXPECT_TRUE(contactShown());
+}
+
+TEST_F(AboutWindow, closing_without_the_contact_leaves_its_height)
+{
+    show();
+    const int height = about.Height;
+    shell::dispatch(panel, about.Unload);
+    EXPECT_EQ(about.Height.value(), height);
+}
+
+TEST_F(AboutWindow, tells_of_a_website_that_cannot_be_opened)
+{
+    show();
+    machine.programs.failure = u"this desktop has nothing to open it with"_s;
+    click(about.cmdWebsite);
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(),
+              u"https://maker.example/soft/kinovra.htm was not opened: this desktop "
+              "has nothing to open it with."_s);
+    EXPECT_THAT(messages(), IsEmpty());
+    machine.programs.failure.clear();
+    click(about.cmdWebsite);
+    machine.programs.ended(42, {platform::Ending::Kind::Exited, 4});
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(),
+              u"https://maker.example/soft/kinovra.htm could not be opened."_s);
+}
+
 TEST_F(AboutWindow, closes_on_each_of_its_ways_and_forgets_the_contact)
 {
     show();

@@ -100,6 +100,7 @@ TEST_F(SystemInformation, a_number_is_read_as_its_decimal_text)
 
 TEST_F(SystemInformation, every_other_type_is_read_as_raw_text)
 {
+    machine.environment.variables[u"A"_s] = u"expanded"_s;
     for (const quint32 type : {0U, 2U, 3U, 5U, 7U, 11U}) {
         EXPECT_TRUE(read({type, u"%A%\x01"_s + zero()}));
         EXPECT_EQ(text, u"%A%\x01"_s);
@@ -206,4 +207,23 @@ TEST_F(SystemInformation, expands_a_text_that_is_to_be_expanded)
     machine.registry.store(key(Tool), u"PATH"_s, {1, u"%ProgramFiles%\\x.exe"_s});
     click(about.cmdSysinfo);
     EXPECT_THAT(machine.programs.started, ElementsAre(tool("%ProgramFiles%\\x.exe")));
+}
+
+TEST_F(SystemInformation, expands_the_directory_that_the_second_key_names)
+{
+    machine.environment.variables[u"ProgramFiles"_s] = u"C:\\Program Files"_s;
+    machine.registry.store(key(Location), u"MSINFO"_s, {2, u"%ProgramFiles%\\Info"_s + zero()});
+    addFile(u"C:\\Program Files\\Info\\MSINFO32.EXE"_s);
+    click(about.cmdSysinfo);
+    EXPECT_THAT(machine.programs.started, ElementsAre(tool("C:\\Program Files\\Info\\MSINFO32.EXE")));
+}
+
+TEST_F(SystemInformation, is_unavailable_where_the_first_key_names_nothing)
+{
+    machine.registry.store(key(Tool), u"PATH"_s, {1, zero()});
+    machine.registry.store(key(Location), u"MSINFO"_s, {1, u"C:\\Shared"_s + zero()});
+    addFile(u"C:\\Shared\\msinfo32.exe"_s);
+    click(about.cmdSysinfo);
+    EXPECT_THAT(machine.dialogs.messages, ElementsAre(Unavailable));
+    EXPECT_THAT(machine.programs.started, IsEmpty());
 }

@@ -28,7 +28,7 @@ PanelFixture::PanelFixture()
     panel.screen = {1024 * 15, 768 * 15};
     frm.hWnd = 4711;
     shell::connectRooms(panel);
-    // What a view does where a window is shown.
+    // What a view does where a window is shown, though not at once as here but from the event loop.
     for (controls::Window *window : std::initializer_list<controls::Window *>{&about, &viewer, &newAverage})
         window->ToFront = [this, window] { shell::dispatch(panel, window->Activate); };
 }

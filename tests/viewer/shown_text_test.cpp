@@ -55,3 +55,16 @@ TEST(ShownText, shows_control_characters_as_their_pictures)
               u"a\u2421"
               "b\uFFFD"_s);
 }
+
+TEST(ShownText, shows_what_the_windows_code_page_leaves_open_as_unknown)
+{
+    EXPECT_EQ(shownText(u"a\u0080b\u009Fc\u00A0d"_s), u"a\uFFFDb\uFFFDc\u00A0d"_s);
+}
+
+TEST(ShownText, takes_its_time_for_every_character_once)
+{
+    const qsizetype many = 16 * 1024 * 1024;
+    EXPECT_EQ(shownText(QString(many, u'\r')).size(), many - 1);
+    EXPECT_EQ(shownText(QString(many, u'\r') + u'x').size(), many + 1);
+    EXPECT_EQ(shownText(QString(many, u'\r') + u"\nx"_s), u"\nx"_s);
+}

@@ -6,6 +6,8 @@
 
 #include <gmock/gmock.h>
 
+#include <new>
+
 using namespace Qt::StringLiterals;
 using platform::Buttons;
 using platform::CommandText;
@@ -325,6 +327,29 @@ TEST_F(TextViewer, a_file_with_a_zero_goes_to_notepad)
     expectGivenToNotepad();
 }
 
+TEST_F(TextViewer, a_zero_is_found_at_the_very_end)
+{
+    showContent(QByteArray(100'000, 'x') + '\0');
+    expectGivenToNotepad();
+}
+
+TEST_F(TextViewer, is_hidden_when_notepad_starts)
+{
+    machine.programs.whileStarting = [this] { EXPECT_FALSE(viewer.Visible); };
+    showContent("");
+    EXPECT_EQ(machine.programs.started.size(), 1U);
+}
+
+TEST_F(TextViewer, what_does_not_fit_into_memory_goes_to_notepad)
+{
+    machine.files.beforeCall = [](const QString &call) {
+        if (call == u"read")
+            throw std::bad_alloc();
+    };
+    showContent("ab");
+    expectGivenToNotepad();
+}
+
 TEST_F(TextViewer, sixteen_mebibytes_are_shown_and_no_more)
 {
     constexpr qsizetype Capacity = 16'777'216;
@@ -552,4 +577,82 @@ TEST_F(TextViewer, reset_is_black_on_white)
     EXPECT_EQ(viewer.txtViewer.BackColor.value(), 0xFFFFFFU);
     EXPECT_EQ(viewer.txtViewer.ForeColor.value(), 0x000000U);
     EXPECT_THAT(machine.dialogs.shownColours, IsEmpty());
+}
+
+TEST_F(TextViewer, opens_in_the_current_directory_at_first)
+{
+    machine.files.addDirectory(u"C:\\ELSEWHERE"_s);
+    machine.files.changeDirectory(u"C:\\ELSEWHERE"_s);
+    click(viewer.mnuOpen);
+    ASSERT_EQ(machine.dialogs.requests.size(), 1U);
+    EXPECT_EQ(machine.dialogs.requests[0].initialDirectory, u"C:\\ELSEWHERE"_s);
+}
+
+TEST_F(TextViewer, opening_runs_the_activation_and_does_not_show_the_window)
+{
+    addFile(u"C:\\DATA\\b.txt"_s, "bbb\n");
+    machine.dialogs.chosenFiles = {u"C:\\DATA\\b.txt"_s};
+    viewer.Visible = false;
+    click(viewer.mnuOpen);
+    EXPECT_EQ(text(), u"bbb"_s);
+    EXPECT_FALSE(viewer.Visible);
+}
+
+TEST_F(TextViewer, exit_goes_back_to_the_data_directorys_drive)
+{
+    machine.files.addDrive(u"d:"_s);
+    showContent("ab");
+    machine.files.changeDrive(u"D:"_s);
+    click(viewer.mnuExit);
+    EXPECT_EQ(machine.files.currentDirectory(), u"C:\\DATA"_s);
+}
+
+TEST_F(TextViewer, an_unknown_size_makes_it_bold_and_checks_none)
+{
+    showContent("ab");
+    for (const int index : {-1, 6}) {
+        viewer.txtViewer.FontBold = false;
+        shell::dispatch(panel, [&] { viewer::mnuFontSizesItem_Click(panel, index); });
+        EXPECT_TRUE(viewer.txtViewer.FontBold);
+        EXPECT_EQ(viewer.txtViewer.FontSize.value(), 10);
+        EXPECT_EQ(checkedSizes(), QString());
+    }
+}
+
+TEST_F(TextViewer, colours_are_compared_with_what_they_were_when_the_dialog_was_asked_for)
+{
+    viewer.txtViewer.BackColor = 0xFFFFFF;
+    viewer.txtViewer.ForeColor = 0x102030;
+    machine.dialogs.whileChoosing = [this] { viewer.txtViewer.ForeColor = 0x000001; };
+    machine.dialogs.chosenColours = {0x102030};
+    click(viewer.mnuColours[0]);
+    EXPECT_EQ(viewer.txtViewer.BackColor.value(), 0xFFFFFFU);
+}
+
+TEST_F(TextViewer, reset_does_not_ask_the_desktop)
+{
+    panel.screen.PageColour = 0x202122;
+    panel.screen.TextColour = 0xEFEEED;
+    showContent("ab");
+    click(viewer.mnuColours[2]);
+    EXPECT_EQ(viewer.txtViewer.BackColor.value(), 0xFFFFFFU);
+    EXPECT_EQ(viewer.txtViewer.ForeColor.value(), 0x000000U);
+}
+
+TEST_F(TextViewer, a_colour_that_is_chosen_while_the_panel_ends_is_not_taken)
+{
+    viewer.txtViewer.BackColor = 0xFFFFFF;
+    machine.dialogs.whileChoosing = [this] { shell::dispatch(panel, frm.Unload); };
+    machine.dialogs.chosenColours = {0x000080};
+    click(viewer.mnuColours[0]);
+    EXPECT_EQ(viewer.txtViewer.BackColor.value(), 0xFFFFFFU);
+    EXPECT_TRUE(machine.environment.ended);
+}
+
+TEST_F(TextViewer, finds_the_how_to_topics_in_a_directory_of_any_name)
+{
+    kinovra.ProgDir = u"C:\\100%1 %2"_s;
+    addFile(u"C:\\100%1 %2\\howto01.txt"_s, "Read.");
+    showFile(u"1"_s);
+    EXPECT_EQ(text(), u"Read."_s);
 }
