@@ -63,7 +63,7 @@ TEST(ShownText, shows_what_the_windows_code_page_leaves_open_as_unknown)
 
 TEST(ShownText, takes_its_time_for_every_character_once)
 {
-    const qsizetype many = 16 * 1024 * 1024;
+    const qsizetype many = 16'777'216;
     EXPECT_EQ(shownText(QString(many, u'\r')).size(), many - 1);
     EXPECT_EQ(shownText(QString(many, u'\r') + u'x').size(), many + 1);
     EXPECT_EQ(shownText(QString(many, u'\r') + u"\nx"_s), u"\nx"_s);

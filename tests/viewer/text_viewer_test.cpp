@@ -46,7 +46,7 @@ protected:
         showFile(u"C:\\DATA\\a.txt"_s);
     }
 
-    QString text() const { return viewer.txtViewer.Text; }
+    QString text() const { return viewer.txtViewer.Text.value(); }
 
     // The numbers of the sizes that are checked.
     QString checkedSizes() const

@@ -10,7 +10,6 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
-using support::waitUntil;
 
 class AverageDialogView : public support::ViewFixture
 {
