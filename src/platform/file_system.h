@@ -70,11 +70,11 @@ public:
 
     /// Opens the file for reading and closes it at once. 0 when that worked, otherwise the number of the
     /// error: FileNotFound, PathNotFound, BadFileName, PermissionDenied, PathFileAccess (a directory, a pipe,
-    /// a device). A missing file is an answer here, so this call never raises.
+    /// a device), TooManyFiles where no more can be open. A missing file is an answer here, so this call
+    /// never raises.
     virtual qint16 testReading(const QString &path) noexcept = 0;
 
-    /// Opens the file for reading. Raises what testReading answers, and TooManyFiles where no more can be
-    /// open.
+    /// Opens the file for reading. Raises what testReading answers.
     virtual std::unique_ptr<OpenedFile> openFile(const QString &path) = 0;
 
     /// The first line of the file without its end, at most 64 Ki characters of it; text is UTF-8 where it is

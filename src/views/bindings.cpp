@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QShortcutEvent>
 #include <QSignalBlocker>
 
 namespace views {
@@ -38,6 +39,29 @@ private:
     QWidget *widget_;
     const controls::Event &click_;
     EventRunner &events_;
+};
+
+/// Lets a box hear of its access key at once. By itself it shows itself pressed first, and a command that is
+/// given meanwhile would not know of it.
+class PromptAccessKey : public QObject
+{
+public:
+    explicit PromptAccessKey(QAbstractButton *box) : QObject(box), box_(box)
+    {
+        box->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() != QEvent::Shortcut || static_cast<QShortcutEvent *>(event)->isAmbiguous())
+            return false;
+        box_->setFocus(Qt::ShortcutFocusReason);
+        box_->click();
+        return true;
+    }
+
+private:
+    QAbstractButton *box_;
 };
 
 } // namespace
@@ -83,6 +107,7 @@ void Bindings::bind(QAbstractButton *widget, controls::CheckBox &box)
 {
     bind(static_cast<QWidget *>(widget), box);
     bind(widget, box.Caption, box.Value);
+    new PromptAccessKey(widget);
 }
 
 void Bindings::bind(QAbstractButton *widget, controls::OptionButton &option)

@@ -295,3 +295,12 @@ TEST_F(AverageDialogView, hides_nothing_in_the_files_name)
     EXPECT_EQ(file()->text(), u"a\uFFFDb.pj"_s);
     EXPECT_EQ(list()->itemText(1), u"a\uFFFDb.pj"_s);
 }
+
+TEST_F(AverageDialogView, a_box_hears_of_its_access_key_before_what_comes_next)
+{
+    showFor(u"other.pj"_s);
+    QTest::keyClick(&dialog(), Qt::Key_W, Qt::AltModifier);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    ASSERT_EQ(machine.programs.started.size(), 1U);
+    EXPECT_EQ(machine.programs.started[0].parameters.text(), u"/I /A /M /P OTHER.PJ"_s);
+}
