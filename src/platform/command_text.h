@@ -70,7 +70,7 @@ enum class Target {
     Program,
     Document, ///< of `Start::directory` and found nowhere else, for whatever the system opens it with; an
               ///< empty name is that directory itself
-    Address ///< of the web, beginning with "https://"
+    Address   ///< of the web, beginning with "https://"
 };
 
 /// What a command wants to be started: a plain value that tests compare.
