@@ -367,7 +367,7 @@ TEST_F(TextViewerView, sixteen_mebibytes_are_there_at_once_and_whole_soon)
     viewer.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&reader()));
     ASSERT_TRUE(waitUntil([this] { return page()->blockCount() > 100; }));
-    EXPECT_LT(time.elapsed(), 3000);
+    EXPECT_LT(time.elapsed(), 10'000);
     RecordProperty("milliseconds", static_cast<int>(time.elapsed()));
     // What needs the whole text has it at once.
     openFind(u"the end"_s);
@@ -398,7 +398,7 @@ TEST_F(TextViewerView, one_line_of_ten_megabytes_does_not_freeze_it)
     time.start();
     showContent(content);
     ASSERT_TRUE(waitUntil([this] { return page()->document()->characterCount() > 10'000'000; }));
-    EXPECT_LT(time.elapsed(), 5000);
+    EXPECT_LT(time.elapsed(), 10'000);
     // Found and copied as it is in the file, across the place where the line is broken.
     openFind(u"walk"_s);
     EXPECT_EQ(page()->selectedText(), u"walk"_s);
@@ -419,7 +419,7 @@ TEST_F(TextViewerView, sixteen_mebibytes_of_short_lines_do_not_freeze_it)
     settle();
     EXPECT_GT(page()->blockCount(), 1);
     QTest::keyClick(page(), Qt::Key_End, Qt::ControlModifier);
-    EXPECT_LT(time.elapsed(), 5000);
+    EXPECT_LT(time.elapsed(), 10'000);
     EXPECT_EQ(page()->document()->characterCount(), content.size());
     EXPECT_EQ(page()->textCursor().position(), content.size() - 1);
     EXPECT_EQ(page()->document()->lineCount(), 16 * 1024 * 1024 / 6 + 1);
