@@ -91,6 +91,12 @@ TEST_F(LinuxFiles, refuse_pipes_devices_and_links_to_nowhere_without_waiting)
 TEST_F(LinuxFiles, cannot_be_opened_where_too_many_are)
 {
     scratch.makeFile("About.txt", "text");
+    // The sanitizer needs a descriptor where it meets a type for the first time.
+    scratch.makeDirectory("Other");
+    scratch.makeFile("Other/about.txt", "text");
+    EXPECT_EQ(opening(at(u"Other\\about.txt"_s)), 0);
+    EXPECT_EQ(opening(at(u"Other\\missing.txt"_s)), 53);
+    EXPECT_EQ(files.testReading(at(u"Other\\missing.txt"_s)), 53);
     {
         const WithoutDescriptors none;
         EXPECT_EQ(opening(at(u"About.txt"_s)), 67);
