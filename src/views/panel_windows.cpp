@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QPalette>
 #include <QScreen>
+#include <QTimer>
 
 namespace views {
 
@@ -31,9 +32,12 @@ PanelWindows::PanelWindows(shell::Panel &panel) : events_(panel), mainWindow_(ev
                 make();
         }));
     };
-    onFirstShowing(panel.about, [this] {
-        if (!aboutWindow_)
-            aboutWindow_ = std::make_unique<AboutWindow>(events_, &mainWindow_);
+    // The splash comes with the main window, whose first picture must not wait for it.
+    onFirstShowing(panel.about, [this, &panel] {
+        QTimer::singleShot(0, &mainWindow_, [this, &panel] {
+            if (!aboutWindow_ && panel.about.Visible)
+                aboutWindow_ = std::make_unique<AboutWindow>(events_, &mainWindow_);
+        });
     });
     onFirstShowing(panel.viewer, [this] {
         if (!textViewer_)

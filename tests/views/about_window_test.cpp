@@ -23,7 +23,7 @@ protected:
     void showAbout()
     {
         panel.about.show();
-        ASSERT_TRUE(waitUntil([this] { return about().isVisible(); }));
+        ASSERT_TRUE(waitUntil([this] { return windows->aboutWindow() != nullptr && about().isVisible(); }));
         about().activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&about()));
         settle();

@@ -298,7 +298,8 @@ TEST_F(MainWindowView, shows_the_about_window_on_f1_and_question_mark)
 {
     pressAndRelease(Qt::Key_F1, Qt::NoModifier);
     EXPECT_TRUE(panel.about.Visible);
-    EXPECT_TRUE(waitUntil([this] { return windows->aboutWindow()->isVisible(); }));
+    EXPECT_TRUE(waitUntil(
+        [this] { return windows->aboutWindow() != nullptr && windows->aboutWindow()->isVisible(); }));
     panel.about.Visible = false;
     pressAndRelease(Qt::Key_Question, Qt::ShiftModifier);
     EXPECT_TRUE(panel.about.Visible);
