@@ -67,6 +67,14 @@ public:
     }
 
 protected:
+    // The stride takes the room that the foot leaves: where that has changed, all of it is drawn anew.
+    bool event(QEvent *event) override
+    {
+        if (event->type() == QEvent::LayoutRequest)
+            update();
+        return QFrame::event(event);
+    }
+
     void paintEvent(QPaintEvent *event) override
     {
         QRect field = contentsRect();

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QImage>
 #include <QLabel>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QSet>
 #include <QTest>
@@ -478,4 +479,25 @@ TEST(ApplicationIcon, can_be_told_from_its_background_in_each_size)
         EXPECT_LT(image.pixelColor(0, 0).alpha(), 64) << size.width();
     }
     EXPECT_EQ(sizes, (QList<int>{16, 24, 32, 48, 64, 128, 256}));
+}
+
+TEST_F(AboutWindowView, draws_the_stride_anew_where_the_banner_takes_more_room)
+{
+    QWidget *picture = called(u"Stick figure of a walking stride"_s);
+    ASSERT_NE(picture, nullptr);
+    /// What of the picture is painted.
+    class Painted : public QObject
+    {
+    public:
+        bool eventFilter(QObject *, QEvent *event) override
+        {
+            if (event->type() == QEvent::Paint)
+                region += static_cast<QPaintEvent *>(event)->region();
+            return false;
+        }
+        QRegion region;
+    } painted;
+    picture->installEventFilter(&painted);
+    panel.about.lblHeader.Caption = kinovra.HeaderText + u"\n\nmore"_s;
+    ASSERT_TRUE(waitUntil([&] { return painted.region.contains(QPoint(5, 5)); }));
 }
