@@ -58,7 +58,6 @@ TextViewerWindow::TextViewerWindow(EventRunner &events)
     makeKeys();
     bindText();
     bindWindow();
-    page_->setFocus();
 }
 
 TextViewerWindow::~TextViewerWindow()
