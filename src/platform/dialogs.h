@@ -54,6 +54,15 @@ struct SaveFileRequest
     bool operator==(const SaveFileRequest &other) const = default;
 };
 
+/// What a box asks the user to type.
+struct InputBox
+{
+    QString prompt;
+    QString title = {};
+
+    bool operator==(const InputBox &other) const = default;
+};
+
 /// Boxes that wait for the user. A box closes all open menus first. When the program ends while a box is
 /// open, the box answers as if it had been cancelled.
 class Dialogs
@@ -63,6 +72,9 @@ public:
 
     virtual Answer message(const MessageBox &box) = 0;
 
+    /// The text that was typed, as it stands; nothing when the box was cancelled.
+    virtual std::optional<QString> input(const InputBox &box) = 0;
+
     /// The full path of the chosen file; nothing when the dialog was cancelled.
     virtual std::optional<QString> openFile(const OpenFileRequest &request) = 0;
 
@@ -71,6 +83,9 @@ public:
 
     /// The chosen colour; nothing when the dialog was cancelled. `initial` is the one that is shown first.
     virtual std::optional<Colour> chooseColour(Colour initial) = 0;
+
+    /// Shows the box in which a printer is chosen and set up; false where the machine has no printer.
+    virtual bool setUpPrinter() = 0;
 };
 
 } // namespace platform

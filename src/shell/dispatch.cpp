@@ -74,6 +74,20 @@ platform::Answer MsgBox(Panel &panel, const platform::MessageBox &box)
     return answer;
 }
 
+QString InputBox(Panel &panel, const platform::InputBox &box)
+{
+    const auto typed = panel.platform.dialogs.input(box);
+    goOn(panel);
+    return typed.value_or(QString());
+}
+
+bool setUpPrinter(Panel &panel)
+{
+    const bool wasShown = panel.platform.dialogs.setUpPrinter();
+    goOn(panel);
+    return wasShown;
+}
+
 std::optional<QString> askForFile(Panel &panel, const platform::OpenFileRequest &request)
 {
     auto chosen = panel.platform.dialogs.openFile(request);

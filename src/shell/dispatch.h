@@ -38,6 +38,12 @@ std::optional<platform::Colour> askForColour(Panel &panel, platform::Colour init
 /// Shows a message box and gives its answer. Raises Unloaded when the main window is closed meanwhile.
 platform::Answer MsgBox(Panel &panel, const platform::MessageBox &box);
 
+/// Shows a box for a text and gives what was typed, empty when it was cancelled. Raises as MsgBox does.
+QString InputBox(Panel &panel, const platform::InputBox &box);
+
+/// Shows the box in which a printer is set up; false where the machine has no printer. Raises as MsgBox does.
+bool setUpPrinter(Panel &panel);
+
 /// Says `text` in the status bar's first panel: it never interrupts and takes no answer.
 void say(Panel &panel, const QString &text);
 

@@ -4,10 +4,13 @@
 #include "shell/kinovra.h"
 #include "views/main_window.h"
 #include "views/menus.h"
+#include "views/printer_set_up.h"
 
 #include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 
 using namespace Qt::StringLiterals;
@@ -105,6 +108,21 @@ Answer MessageBoxes::message(const platform::MessageBox &box)
     return answerOf(window.exec(), box.buttons);
 }
 
+std::optional<QString> MessageBoxes::input(const platform::InputBox &box)
+{
+    closeMenus();
+    QInputDialog window(owner());
+    window.setWindowTitle(box.title);
+    window.setLabelText(platform::displayLines(box.prompt));
+    // It would take a directory's name for mark-up, and grow with every path.
+    auto *prompt = window.findChild<QLabel *>();
+    prompt->setTextFormat(Qt::PlainText);
+    prompt->setWordWrap(true);
+    if (window.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return window.textValue();
+}
+
 std::optional<QString> MessageBoxes::openFile(const platform::OpenFileRequest &request)
 {
     closeMenus();
@@ -135,6 +153,12 @@ std::optional<platform::Colour> MessageBoxes::chooseColour(platform::Colour init
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     return dialog.selectedColor().rgb() & platform::White;
+}
+
+bool MessageBoxes::setUpPrinter()
+{
+    closeMenus();
+    return showPrinterSetUp(owner());
 }
 
 // "Text|*.txt|All|*.*" as the list of filters that the desktop's dialog wants; without "|" it is text and

@@ -105,6 +105,12 @@ std::optional<QByteArray> MemoryFileSystem::content(const QString &path) const
     return found == nodes_.constEnd() || found->isDirectory ? std::nullopt : std::optional(found->content);
 }
 
+void MemoryFileSystem::makeLink(const QString &path)
+{
+    addDirectory(path);
+    nodes_[UCase(path)].isLink = true;
+}
+
 void MemoryFileSystem::setShortName(const QString &path, const QString &shortName)
 {
     nodes_[UCase(path)].shortName = shortName;
@@ -293,6 +299,46 @@ void MemoryFileSystem::copyFile(const QString &source, const QString &destinatio
             throw RuntimeError(ErrorNumber::FileAlreadyExists);
     }
     makeNode(full).content = content;
+    nextMoment();
+}
+
+void MemoryFileSystem::makeDirectory(const QString &path)
+{
+    announce("makeDirectory");
+    nextMoment();
+    const QString full = absolute(path);
+    if (find(full) != nullptr)
+        throw RuntimeError(ErrorNumber::PathFileAccess, u"There is something of this name already"_s);
+    const Node *parent = find(platform::parentOf(full));
+    if (parent == nullptr || !parent->isDirectory)
+        throw RuntimeError(ErrorNumber::PathNotFound);
+    if (parent->error)
+        throw RuntimeError(*parent->error);
+    addDirectory(full);
+    nextMoment();
+}
+
+void MemoryFileSystem::removeDirectory(const QString &path)
+{
+    announce("removeDirectory");
+    nextMoment();
+    if (platform::isDriveText(path))
+        throw RuntimeError(ErrorNumber::PathFileAccess, u"A drive cannot be removed"_s);
+    const QString full = absolute(path);
+    const Node *node = find(full);
+    if (node == nullptr || node->path != full)
+        throw RuntimeError(ErrorNumber::PathNotFound);
+    if (node->error)
+        throw RuntimeError(*node->error);
+    if (platform::parentOf(full) == full)
+        throw RuntimeError(ErrorNumber::PathFileAccess, u"A drive cannot be removed"_s);
+    if (!node->isDirectory || node->isLink)
+        throw RuntimeError(ErrorNumber::PathFileAccess, u"It is not a directory of its own"_s);
+    const QString below = UCase(full) + u'\\';
+    if (std::any_of(nodes_.keyBegin(), nodes_.keyEnd(),
+                    [&below](const QString &key) { return key.startsWith(below); }))
+        throw RuntimeError(ErrorNumber::PathFileAccess, u"It is not empty"_s);
+    nodes_.remove(UCase(full));
     nextMoment();
 }
 

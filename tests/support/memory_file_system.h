@@ -31,6 +31,8 @@ public:
     /// Makes a second name for the file `path`, which then has two.
     void addSecondName(const QString &path, const QString &secondName);
     void setShortName(const QString &path, const QString &shortName);
+    /// Makes the directory `path` a link to another one.
+    void makeLink(const QString &path);
     /// Removes a file, or a directory with all that it holds.
     void remove(const QString &path);
 
@@ -50,6 +52,8 @@ public:
     std::optional<platform::FileStamp> stamp(const QString &path) override;
     std::optional<QString> existingFile(const QString &path) override;
     void copyFile(const QString &source, const QString &destination, platform::Replacing replacing) override;
+    void makeDirectory(const QString &path) override;
+    void removeDirectory(const QString &path) override;
     // As on a host at its laziest: within a moment nothing that changes is seen.
     void beginMoment() override;
     void endMoment() override { --moments_; }
@@ -68,6 +72,7 @@ private:
     {
         QString path; ///< spelled as it was made
         bool isDirectory = false;
+        bool isLink = false;
         bool hidden = false;
         QByteArray content;
         QString shortName;

@@ -149,6 +149,8 @@ void PanelFixture::forget()
     machine.dialogs.requests.clear();
     machine.dialogs.saveRequests.clear();
     machine.dialogs.shownColours.clear();
+    machine.dialogs.inputs.clear();
+    machine.dialogs.printerSetUps = 0;
     machine.registry.calls.clear();
     machine.programs.started.clear();
     machine.settings.written.clear();

@@ -24,6 +24,11 @@ void PrintTo(const MessageBox &box, std::ostream *out)
          << "\" noByDefault=" << box.noByDefault;
 }
 
+void PrintTo(const InputBox &box, std::ostream *out)
+{
+    *out << "prompt=\"" << box.prompt.toStdString() << "\" title=\"" << box.title.toStdString() << '"';
+}
+
 void PrintTo(const OpenFileRequest &request, std::ostream *out)
 {
     *out << "directory=\"" << request.initialDirectory.toStdString() << "\" name=\""

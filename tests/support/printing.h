@@ -15,6 +15,7 @@ namespace platform {
 
 void PrintTo(const Start &start, std::ostream *out);
 void PrintTo(const MessageBox &box, std::ostream *out);
+void PrintTo(const InputBox &box, std::ostream *out);
 void PrintTo(const OpenFileRequest &request, std::ostream *out);
 void PrintTo(const SaveFileRequest &request, std::ostream *out);
 

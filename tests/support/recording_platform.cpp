@@ -139,6 +139,26 @@ std::optional<platform::Colour> RecordingDialogs::chooseColour(platform::Colour 
     return chosen;
 }
 
+std::optional<QString> RecordingDialogs::input(const platform::InputBox &box)
+{
+    inputs.push_back(box);
+    if (whileChoosing)
+        whileChoosing();
+    if (typed.empty())
+        return std::nullopt;
+    const auto text = typed.front();
+    typed.pop_front();
+    return text;
+}
+
+bool RecordingDialogs::setUpPrinter()
+{
+    ++printerSetUps;
+    if (whileChoosing)
+        whileChoosing();
+    return hasPrinter;
+}
+
 void RecordingClock::letEventsRunUntil(double until)
 {
     const double start = now;

@@ -73,14 +73,20 @@ class RecordingDialogs : public platform::Dialogs
 {
 public:
     platform::Answer message(const platform::MessageBox &box) override;
+    std::optional<QString> input(const platform::InputBox &box) override;
     std::optional<QString> openFile(const platform::OpenFileRequest &request) override;
     std::optional<QString> saveFile(const platform::SaveFileRequest &request) override;
     std::optional<platform::Colour> chooseColour(platform::Colour initial) override;
+    bool setUpPrinter() override;
 
     std::vector<platform::MessageBox> messages;
     std::vector<platform::OpenFileRequest> requests;
     std::vector<platform::SaveFileRequest> saveRequests;
     std::deque<platform::Answer> answers;
+    std::vector<platform::InputBox> inputs;
+    std::deque<std::optional<QString>> typed; ///< into the input boxes, in their order
+    int printerSetUps = 0;                    ///< how often its box was asked for
+    bool hasPrinter = true;
     std::deque<std::optional<QString>> chosenFiles; ///< for file dialogs of both kinds, in their order
     std::vector<platform::Colour> shownColours;     ///< what each colour dialog showed first
     std::deque<std::optional<platform::Colour>> chosenColours;

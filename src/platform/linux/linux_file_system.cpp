@@ -19,6 +19,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace platform::host {
 
 namespace {
@@ -210,6 +212,49 @@ void LinuxFileSystem::copyFile(const QString &source, const QString &destination
     if (!to)
         throw RuntimeError(ErrorNumber::PathNotFound);
     copyWholeFile(from, behindLink(*to), replacing, *copying_);
+    lookup_.nextMoment();
+}
+
+void LinuxFileSystem::makeDirectory(const QString &path)
+{
+    lookup_.nextMoment();
+    const QString absolute = current_.absolute(path);
+    // A name that is there in another case is taken as well.
+    const bool isTaken = lookup_.findFile(absolute).hostPath.has_value();
+    const auto directory = hostDocument(absolute);
+    if (!directory)
+        throw RuntimeError(ErrorNumber::PathNotFound);
+    if (isTaken || ::mkdir(directory->constData(), 0777) != 0) {
+        if (isTaken || errno == EEXIST)
+            throw RuntimeError(ErrorNumber::PathFileAccess, u"There is something of this name already"_s);
+        raise(errno);
+    }
+    lookup_.nextMoment();
+}
+
+void LinuxFileSystem::removeDirectory(const QString &path)
+{
+    lookup_.nextMoment();
+    const QString absolute = current_.absolute(path);
+    if (isDriveText(path) || absolute == rootOf(absolute.at(0)))
+        throw RuntimeError(ErrorNumber::PathFileAccess, u"A drive cannot be removed"_s);
+    if (!drives_.contains(absolute.at(0)))
+        throw RuntimeError(ErrorNumber::DeviceUnavailable);
+    const QByteArray directory = drives_.toHost(absolute);
+    struct stat status = {};
+    if (::lstat(directory.constData(), &status) != 0)
+        raise(errno);
+    if (S_ISLNK(status.st_mode))
+        throw RuntimeError(ErrorNumber::PathFileAccess, u"It is a link to another directory"_s);
+    if (!S_ISDIR(status.st_mode))
+        throw RuntimeError(ErrorNumber::PathFileAccess, u"It is not a directory"_s);
+    if (::rmdir(directory.constData()) != 0) {
+        if (errno == ENOTEMPTY || errno == EEXIST)
+            throw RuntimeError(ErrorNumber::PathFileAccess, u"It is not empty"_s);
+        if (errno == EBUSY)
+            throw RuntimeError(ErrorNumber::PathFileAccess, u"The system uses it"_s);
+        raise(errno);
+    }
     lookup_.nextMoment();
 }
 

@@ -31,6 +31,8 @@ public:
     std::optional<FileStamp> stamp(const QString &path) override;
     std::optional<QString> existingFile(const QString &path) override;
     void copyFile(const QString &source, const QString &destination, Replacing replacing) override;
+    void makeDirectory(const QString &path) override;
+    void removeDirectory(const QString &path) override;
     void beginMoment() override { lookup_.beginMoment(); }
     void endMoment() override { lookup_.endMoment(); }
     void nextMoment() override { lookup_.nextMoment(); }
