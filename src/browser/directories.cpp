@@ -63,16 +63,21 @@ void openDirectory(Panel &panel, const QString &path)
     dirSelect_Change(panel);
 }
 
+void goToDirectory(Panel &panel, const QString &path)
+{
+    try {
+        openDirectory(panel, path);
+    } catch (const RuntimeError &error) {
+        tellPathProblem(panel, error);
+    }
+}
+
 void openRow(Panel &panel, int row)
 {
     auto &list = panel.frm.dirSelect;
     if (row < 0 || row >= list.RowCount() || row == list.OpenedRow())
         return;
-    try {
-        openDirectory(panel, list.RowPath(row));
-    } catch (const RuntimeError &error) {
-        tellPathProblem(panel, error);
-    }
+    goToDirectory(panel, list.RowPath(row));
 }
 
 void drvDrives_Change(Panel &panel)

@@ -41,16 +41,12 @@ void showGraphButtons(Panel &panel)
 // The lists of the data directory and the directory list share one reading of it.
 void refreshDataDirectory(Panel &panel)
 {
-    auto [kinovra, frm, platform] = panel.parts();
+    auto &frm = panel.frm;
 
     const std::initializer_list<FileList *> lists{&frm.filDatafiles, &frm.filModels, &frm.filPlots,
                                                   &frm.filBinaries, &frm.filOutputs};
     refresh(panel, lists);
-    try {
-        frm.dirSelect.show(*platform.files.directory(frm.dirSelect.Path(), Reading::WhenChanged));
-    } catch (const RuntimeError &) {
-        frm.dirSelect.showGone();
-    }
+    refreshDirectoryList(panel);
 }
 
 } // namespace
@@ -83,6 +79,16 @@ void refresh(Panel &panel, std::initializer_list<FileList *> lists)
         for (FileList *list : lists)
             list->refresh({});
         sayUnreadable(panel, path, error);
+    }
+}
+
+void refreshDirectoryList(Panel &panel)
+{
+    auto &list = panel.frm.dirSelect;
+    try {
+        list.show(*panel.platform.files.directory(list.Path(), Reading::WhenChanged));
+    } catch (const RuntimeError &) {
+        list.showGone();
     }
 }
 

@@ -20,6 +20,9 @@ void pointAtDataDir(Panel &panel);
 /// and is told in the status bar.
 void refresh(Panel &panel, std::initializer_list<FileList *> lists);
 
+/// Shows the open directory's sub-directories as they are now. No handler runs. Never raises.
+void refreshDirectoryList(Panel &panel);
+
 /// Refreshes the lists in which results show up: binaries, outputs, plots.
 void refreshResultLists(Panel &panel);
 

@@ -1,5 +1,6 @@
 #include "browser/result_files.h"
 
+#include "graphs/graph_options.h"
 #include "launcher/starting.h"
 #include "platform/letter_case.h"
 #include "shell/dispatch.h"
@@ -116,12 +117,11 @@ void filPlots_DblClick(Panel &panel)
 
     if (!choosePlot(panel) || kinovra.SelectedFile.isEmpty())
         return;
-    constexpr size_t FullScreenPreview = 2;
     const CommandText plot = CommandText::document(kinovra.SelectedFile);
     if (UCase(behindFirstDot(kinovra.SelectedFile)) == u"ACD")
         kinovra.TaskId = launcher::startDirectly(panel, kinovra.ProgDir + u"\\acrospin.exe"_s, u" "_s + plot,
                                                  Show::Normal);
-    else if (frm.mnuGraphOptions[FullScreenPreview].Checked)
+    else if (frm.mnuGraphOptions[graphs::FullScreenPreview].Checked)
         kinovra.TaskId = launcher::startDirectly(panel, kinovra.ProgDir + u"\\grafod.exe"_s, u" /1 "_s + plot,
                                                  Show::Normal);
     else

@@ -31,7 +31,7 @@ void select(Panel &panel)
     if (frm.filDatafiles.ListCount() == 0) {
         MsgBox(panel, {u"No datafiles in this directory."_s + frm.LineBreak + u"Open another directory."_s,
                        Icon::Exclamation});
-        launcher::mnuOpen_Click(panel);
+        launcher::mnuOpen_Click(panel, launcher::OpenDirectory);
     } else if (frm.filDatafiles.ListCount() == 1) {
         browser::chooseTrialOf(panel, frm.filDatafiles.List(0));
     }

@@ -4,10 +4,12 @@
 
 namespace graphs {
 
-/// Shows the graph-type list in place of the three graph buttons. It says nothing.
-void cmdSelectGra_Click(shell::Panel &panel);
+using shell::Panel;
 
-/// Hangs the room's handlers on the controls.
-void connect(shell::Panel &panel);
+/// Shows the graph-type list in place of the three graph buttons. It says nothing.
+void cmdSelectGra_Click(Panel &panel);
+
+/// Hides the three graph buttons, in whose place the graph types are shown.
+void hideGraphButtons(Panel &panel);
 
 } // namespace graphs

@@ -1,7 +1,11 @@
 #include "launcher/companions.h"
 
+#include "browser/current_trial.h"
 #include "browser/test_file.h"
+#include "browser/trial_files.h"
+#include "launcher/program_runner.h"
 #include "launcher/starting.h"
+#include "platform/letter_case.h"
 #include "shell/dispatch.h"
 #include "shell/stored_settings.h"
 
@@ -11,7 +15,27 @@ namespace launcher {
 
 namespace {
 
+using platform::Icon;
 using platform::Show;
+using shell::MsgBox;
+
+struct ForceRow
+{
+    const char *program;
+    const char *switches;
+};
+
+// In menu order.
+constexpr std::array<ForceRow, 4> ForcePrograms{{
+    {"FPAnalyz", "/F/I "},
+    {"FPHist", "/A/C "},
+    {"FPSig", "/A/C/D/2 "},
+    {"FPSig", "/A/C/D/3 "},
+}};
+
+// Extensions of what the animation program shows, in menu order.
+constexpr std::array<const char *, 4> AnimatedData{".dg", ".cn", ".km", ".sn"};
+constexpr int FilteredData = 2;
 
 // The companions take a lone ";" as "no file".
 CommandText noFile()
@@ -61,9 +85,9 @@ void cmdOndex_Click(Panel &panel)
         return;
     }
     const platform::Answer answer =
-        shell::MsgBox(panel, {u"Press Yes to view Reduced Forces file (.rf), No to open Ondex2 or Cancel"_s,
-                              platform::Icon::Question, platform::Buttons::YesNoCancel,
-                              u"View .RF file or open Ondex2?"_s});
+        MsgBox(panel, {u"Press Yes to view Reduced Forces file (.rf), No to open Ondex2 or Cancel"_s,
+                       platform::Icon::Question, platform::Buttons::YesNoCancel,
+                       u"View .RF file or open Ondex2?"_s});
     kinovra.TaskId = answer;
     // Yes and No both start the program; that is meant, whatever the question suggests.
     if (answer == platform::Yes)
@@ -72,12 +96,56 @@ void cmdOndex_Click(Panel &panel)
         startCompanion(panel, "ondex2.exe", noFile());
 }
 
-void connectCompanions(Panel &panel)
+void mnuForce_Click(Panel &panel, int index)
 {
-    auto &frm = panel.frm;
-    frm.cmdForces.Click = [&panel] { cmdForces_Click(panel); };
-    frm.cmdSkelvo.Click = [&panel] { cmdSkelvo_Click(panel); };
-    frm.cmdOndex.Click = [&panel] { cmdOndex_Click(panel); };
+    auto [kinovra, frm, platform] = panel.parts();
+
+    if (kinovra.CurrentTrial.isEmpty()) {
+        MsgBox(panel, {u"Select a trial from the Select trial menu."_s, Icon::Exclamation});
+        return;
+    }
+    if (!browser::TrialFiles(panel).hasByAnswer(".rf")) {
+        MsgBox(panel, {u"No force data files (.rf) were found for this trial."_s + frm.LineBreak
+                           + u"Trial is: "_s + kinovra.CurrentTrial,
+                       Icon::Exclamation});
+        return;
+    }
+    if (index < 0 || static_cast<size_t>(index) >= ForcePrograms.size()) {
+        MsgBox(panel, {u"Invalid case in mnuForce."_s, Icon::Exclamation});
+        return;
+    }
+    const ForceRow &row = ForcePrograms[static_cast<size_t>(index)];
+    kinovra.ProgName = QLatin1String(row.program);
+    frm.ProgPath = packageProgram(panel, kinovra.ProgName);
+    frm.Comm = CommandText(row.switches) + CommandText::document(kinovra.CurrentTrial + u".rf"_s);
+    kinovra.Answer = RunProgram(panel, frm.ProgPath, frm.Comm, 0);
+}
+
+void mnuSkelvo_Click(Panel &panel, int index)
+{
+    auto [kinovra, frm, platform] = panel.parts();
+
+    const bool known = index >= 0 && static_cast<size_t>(index) < AnimatedData.size();
+    const char *extension = known ? AnimatedData[static_cast<size_t>(index)] : "";
+    // Behind the program's own blank it makes two; that is meant.
+    const bool withSegments = index == FilteredData && browser::TrialFiles(panel).hasByAnswer(".ks");
+    const CommandText file = CommandText(withSegments ? " /g " : "")
+                             + CommandText::document(kinovra.CurrentTrial + QLatin1String(extension));
+    kinovra.ProgName = u"Skelvo"_s;
+    frm.ProgPath = packageProgram(panel, kinovra.ProgName);
+    kinovra.SelectedFile = file.text();
+    frm.lblCommand.Caption = platform::LCase(frm.ProgPath + u' ' + kinovra.SelectedFile);
+    frm.lblCommand.Visible = true;
+    kinovra.TaskId = startDirectly(panel, frm.ProgPath, u" "_s + file, Show::Shown);
+}
+
+void mnuImages_Click(Panel &panel)
+{
+    if (browser::TestTrial(panel))
+        return;
+    browser::TrialFiles trial(panel);
+    for (size_t i = 0; i < AnimatedData.size(); ++i)
+        panel.frm.mnuSkelvo[i].Enabled = trial.has(AnimatedData[i]);
 }
 
 } // namespace launcher

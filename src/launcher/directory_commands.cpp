@@ -1,12 +1,25 @@
 #include "launcher/directory_commands.h"
 
+#include "browser/directories.h"
 #include "browser/file_lists.h"
+#include "launcher/starting.h"
+#include "platform/letter_case.h"
+#include "platform/path_language.h"
+#include "platform/runtime_error.h"
+#include "shell/dispatch.h"
 
 using namespace Qt::StringLiterals;
 
 namespace launcher {
 
-void mnuOpen_Click(Panel &panel)
+namespace {
+
+using platform::Icon;
+using platform::joinPath;
+using platform::LCase;
+using shell::MsgBox;
+
+void restoreBrowsing(Panel &panel)
 {
     auto &frm = panel.frm;
     // The list takes "*.*" as a file name first, which no model has: none stays selected.
@@ -21,9 +34,84 @@ void mnuOpen_Click(Panel &panel)
     frm.lblDatafiles.Visible = true;
 }
 
-void connectDirectoryCommands(Panel &panel)
+// `name` as seen from `directory`, whatever the current directory has become. Raises BadFileName.
+QString seenFrom(const QString &directory, const QString &name)
 {
-    panel.frm.mnuOpen[0].Click = [&panel] { mnuOpen_Click(panel); };
+    const platform::PathParts parts = platform::splitPath(name);
+    if (parts.Drive || parts.Network)
+        return name;
+    return parts.Rooted ? directory.left(2) + name : joinPath(directory, name);
+}
+
+void makeSubdirectory(Panel &panel)
+{
+    const QString directory = panel.kinovra.DataDir;
+    const QString name = shell::InputBox(
+        panel, {u"Enter subdirectory name for directory, "_s + LCase(directory) + u", or press Cancel"_s,
+                u"Make a subdirectory."_s});
+    if (name.isEmpty())
+        return;
+    panel.platform.files.makeDirectory(seenFrom(directory, name));
+    browser::refreshDirectoryList(panel);
+}
+
+void tellNotRemoved(Panel &panel, const QString &directory, const platform::RuntimeError &error)
+{
+    // The box gives one reason for every failure; the status bar knows the true one.
+    shell::say(panel, u"%1 was not removed: %2."_s.arg(directory, LCase(error.Description)));
+    MsgBox(panel, {u"Directory, "_s + LCase(directory) + u", was not empty."_s + panel.frm.LineBreak
+                       + u"It was not removed."_s,
+                   Icon::Exclamation});
+}
+
+void removeDirectory(Panel &panel)
+{
+    auto [kinovra, frm, platform] = panel.parts();
+
+    const QString directory = kinovra.DataDir;
+    const platform::Answer answer =
+        MsgBox(panel, {u"Do you want to remove the current directory, "_s + LCase(directory) + u"?"_s
+                           + frm.LineBreak + u"Note, it must be empty of files."_s,
+                       Icon::Question, platform::Buttons::YesNo, u"Remove directory"_s});
+    kinovra.TaskId = answer;
+    if (answer != platform::Yes)
+        return;
+    try {
+        platform.files.changeDrive(directory);
+        platform.files.changeDirectory(joinPath(directory, u"..\\"_s));
+        platform.files.removeDirectory(directory);
+    } catch (const platform::RuntimeError &error) {
+        tellNotRemoved(panel, directory, error);
+        return;
+    }
+    kinovra.DataDir = platform.files.currentDirectory();
+    browser::goToDirectory(panel, kinovra.DataDir);
+}
+
+// On the data directory, whatever the current directory has become.
+void exploreDirectory(Panel &panel)
+{
+    panel.kinovra.TaskId = exploreFolder(panel, panel.kinovra.DataDir);
+}
+
+} // namespace
+
+void mnuOpen_Click(Panel &panel, int index)
+{
+    restoreBrowsing(panel);
+    switch (index) {
+    case MakeSubdirectory:
+        makeSubdirectory(panel);
+        break;
+    case RemoveDirectory:
+        removeDirectory(panel);
+        break;
+    case ExploreDirectory:
+        exploreDirectory(panel);
+        break;
+    default:
+        break;
+    }
 }
 
 } // namespace launcher

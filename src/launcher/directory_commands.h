@@ -6,10 +6,12 @@ namespace launcher {
 
 using shell::Panel;
 
-/// Shows the lists in which another directory is opened, and the models and data files of this one.
-void mnuOpen_Click(Panel &panel);
+/// Items of the first group of the File menu.
+enum DirectoryItem { OpenDirectory, MakeSubdirectory, RemoveDirectory, ExploreDirectory };
 
-/// Hangs the handlers of the directory commands on their items.
-void connectDirectoryCommands(Panel &panel);
+/// Shows the lists in which another directory is opened, and the models and data files of this one; then
+/// makes a subdirectory of the data directory, removes the data directory where it is empty, or opens the
+/// desktop's file manager on it, as `index` says. Raises what making a subdirectory raises.
+void mnuOpen_Click(Panel &panel, int index);
 
 } // namespace launcher

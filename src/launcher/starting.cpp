@@ -101,6 +101,15 @@ double openDocument(Panel &panel, const QString &name, const QString &directory)
                          .target = Target::Document});
 }
 
+double exploreFolder(Panel &panel, const QString &directory)
+{
+    return start(panel, {.verb = u"explore"_s,
+                         .directory = directory,
+                         .show = platform::Show::Normal,
+                         .owner = panel.kinovra.MainWindowHandle,
+                         .target = Target::Document});
+}
+
 double openAddress(Panel &panel, const QString &address, const QString &directory)
 {
     return start(panel, {.verb = u"Open"_s,

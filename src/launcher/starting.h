@@ -23,6 +23,10 @@ double openInTextViewer(Panel &panel, const QString &document, const QString &di
 /// empty name is that directory itself. The result is that of openWithSystem.
 double openDocument(Panel &panel, const QString &name, const QString &directory);
 
+/// Asks the operating system to "explore" the folder `directory` in its file manager. The result is that of
+/// openWithSystem.
+double exploreFolder(Panel &panel, const QString &directory);
+
 /// Asks the operating system to open the web address `address`, with `directory` as the working directory.
 /// The result is that of openWithSystem.
 double openAddress(Panel &panel, const QString &address, const QString &directory);

@@ -69,7 +69,7 @@ enum class Show : qint16 {
 enum class Target {
     Program,
     Document, ///< of `Start::directory` and found nowhere else, for whatever the system opens it with; an
-              ///< empty name is that directory itself
+              ///< empty name is that directory itself, which "explore" shows in the file manager
     Address   ///< of the web, beginning with "https://"
 };
 

@@ -3,11 +3,11 @@
 #include "averaging/connect_averaging.h"
 #include "browser/directories.h"
 #include "data/connect_data.h"
-#include "graphs/graph_types.h"
+#include "graphs/connect_graphs.h"
 #include "help/connect_help.h"
-#include "launcher/programs_menu.h"
+#include "launcher/connect_launcher.h"
 #include "shell/window_events.h"
-#include "viewer/text_viewer.h"
+#include "viewer/connect_viewer.h"
 
 namespace shell {
 

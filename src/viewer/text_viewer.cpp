@@ -4,7 +4,6 @@
 #include "platform/path_language.h"
 #include "platform/runtime_error.h"
 #include "platform/text_decoding.h"
-#include "shell/connect_items.h"
 #include "shell/dispatch.h"
 #include "viewer/shown_text.h"
 
@@ -258,21 +257,6 @@ void ReportViewerError(Panel &panel, qint16 index)
     }
     shell::MsgBox(panel, box);
     panel.viewer.Visible = false;
-}
-
-void connect(Panel &panel)
-{
-    using shell::connectItems;
-
-    shell::frmViewer &viewer = panel.viewer;
-    viewer.Load = [&panel] { Form_Load(panel); };
-    viewer.Activate = [&panel] { Form_Activate(panel); };
-    viewer.Resize = [&panel] { Form_Resize(panel); };
-    viewer.Unload = [&panel] { mnuExit_Click(panel); };
-    viewer.mnuOpen.Click = [&panel] { mnuOpen_Click(panel); };
-    viewer.mnuExit.Click = [&panel] { mnuExit_Click(panel); };
-    connectItems(panel, viewer.mnuFontSizesItem, mnuFontSizesItem_Click);
-    connectItems(panel, viewer.mnuColours, mnuColours_Click);
 }
 
 } // namespace viewer

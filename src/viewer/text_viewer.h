@@ -39,7 +39,4 @@ void mnuColours_Click(Panel &panel, int index);
 /// Says what went wrong and hides the viewer.
 void ReportViewerError(Panel &panel, qint16 index);
 
-/// Hangs the viewer's handlers on its controls.
-void connect(Panel &panel);
-
 } // namespace viewer

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "shell/panel.h"
+
+namespace graphs {
+
+/// Hangs the room's handlers on the controls.
+void connect(shell::Panel &panel);
+
+} // namespace graphs
