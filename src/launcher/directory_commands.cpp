@@ -84,8 +84,10 @@ void removeDirectory(Panel &panel)
         tellNotRemoved(panel, directory, error);
         return;
     }
-    kinovra.DataDir = platform.files.currentDirectory();
-    browser::goToDirectory(panel, kinovra.DataDir);
+    const QString above = platform.files.currentDirectory();
+    // It keeps no backslash, not even of a root.
+    kinovra.DataDir = above.endsWith(u'\\') ? above.chopped(1) : above;
+    browser::goToDirectory(panel, above);
 }
 
 // On the data directory, whatever the current directory has become.

@@ -104,3 +104,252 @@ TEST_F(Companions, signal_processing_asks_about_the_force_file)
     EXPECT_THAT(machine.programs.started, IsEmpty());
     EXPECT_EQ(kinovra.TaskId, 2);
 }
+
+TEST_F(Companions, say_in_the_status_bar_alone_that_they_did_not_start)
+{
+    machine.programs.failure = u"it was not found"_s;
+    click(frm.cmdForces);
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"forces.exe was not started: it was not found."_s);
+    EXPECT_EQ(kinovra.TaskId, 0);
+    EXPECT_THAT(machine.dialogs.messages, IsEmpty());
+}
+
+class ForcePlateMenu : public support::PanelFixture
+{
+protected:
+    void SetUp() override
+    {
+        addData({"Walk 1.dg", "Walk 1.rf"});
+        for (const char *program : {"fpanalyz.exe", "fphist.exe", "fpsig.exe"})
+            addFile(u"C:\\KINOVRA\\"_s + QLatin1String(program));
+        load();
+        frm.mnuPrompt.Checked = false;
+    }
+
+    void chooseTrial()
+    {
+        click(frm.filDatafiles, u"Walk 1.dg"_s);
+        forget();
+        mark();
+    }
+};
+
+TEST_F(ForcePlateMenu, runs_its_programs_on_the_reduced_force_file)
+{
+    struct Row
+    {
+        const char *program;
+        const char *upper;
+        const char *switches;
+    };
+    const Row table[]{{"FPAnalyz", "FPANALYZ", "/F/I "},
+                      {"FPHist", "FPHIST", "/A/C "},
+                      {"FPSig", "FPSIG", "/A/C/D/2 "},
+                      {"FPSig", "FPSIG", "/A/C/D/3 "}};
+    chooseTrial();
+    // It takes no listing switch.
+    kinovra.ListingSwitch = u"/T "_s;
+    for (size_t i = 0; i < 4; ++i) {
+        const Row &row = table[i];
+        forget();
+        mark();
+        click(frm.mnuForce[i]);
+        EXPECT_EQ(kinovra.ProgName, QString(QLatin1String(row.program)));
+        EXPECT_EQ(frm.ProgPath, u"C:\\KINOVRA\\%1.exe"_s.arg(QLatin1String(row.program)));
+        EXPECT_EQ(frm.Comm, CommandText(row.switches) + CommandText::document(u"Walk 1.rf"_s));
+        EXPECT_THAT(machine.programs.started,
+                    ElementsAre(Start{u"open"_s, u"C:\\KINOVRA\\%1.EXE"_s.arg(QLatin1String(row.upper)),
+                                      CommandText(row.switches) + CommandText::document(u"WALK 1.RF"_s),
+                                      u"C:\\DATA"_s, Show::Shown, 4711}));
+        EXPECT_EQ(kinovra.Answer, 0);
+        EXPECT_THAT(machine.dialogs.messages, IsEmpty());
+        expectMarkedBut({u"ProgName"_s, u"ProgPath"_s, u"Comm"_s, u"TaskId"_s, u"Answer"_s, u"lblCommand"_s});
+    }
+}
+
+TEST_F(ForcePlateMenu, offers_no_listing)
+{
+    chooseTrial();
+    frm.mnuPrompt.Checked = true;
+    addData({"FPHist.out"});
+    click(frm.mnuForce[1]);
+    EXPECT_THAT(machine.dialogs.messages, IsEmpty());
+    EXPECT_EQ(machine.programs.started.size(), 1U);
+    EXPECT_THAT(machine.clock.pauses, ElementsAre(1));
+    EXPECT_EQ(kinovra.SelectedFile, u"C:\\DATA\\FPHist.out"_s);
+}
+
+TEST_F(ForcePlateMenu, needs_a_trial_and_its_forces_before_anything_else)
+{
+    mark();
+    for (int index : {0, 4}) {
+        launcher::mnuForce_Click(panel, index);
+        EXPECT_THAT(
+            machine.dialogs.messages,
+            ElementsAre(MessageBox{u"Select a trial from the Select trial menu."_s, Icon::Exclamation}));
+        EXPECT_THAT(machine.files.tested, IsEmpty());
+        forget();
+    }
+    expectMarkedBut({});
+
+    machine.files.remove(u"C:\\DATA\\Walk 1.rf"_s);
+    chooseTrial();
+    for (int index : {0, 4}) {
+        launcher::mnuForce_Click(panel, index);
+        EXPECT_THAT(machine.dialogs.messages,
+                    ElementsAre(MessageBox{u"No force data files (.rf) were found for this trial.\n"
+                                           "Trial is: Walk 1"_s,
+                                           Icon::Exclamation}));
+        EXPECT_EQ(kinovra.Answer, 53);
+        EXPECT_THAT(machine.files.tested, ElementsAre(u"C:\\DATA\\WALK 1.RF"_s));
+        forget();
+    }
+    expectMarkedBut({u"Answer"_s});
+    EXPECT_THAT(machine.programs.started, IsEmpty());
+}
+
+TEST_F(ForcePlateMenu, has_four_items)
+{
+    chooseTrial();
+    for (int index : {-1, 4}) {
+        launcher::mnuForce_Click(panel, index);
+        EXPECT_THAT(machine.dialogs.messages,
+                    ElementsAre(MessageBox{u"Invalid case in mnuForce."_s, Icon::Exclamation}));
+        forget();
+    }
+    EXPECT_THAT(machine.programs.started, IsEmpty());
+    expectMarkedBut({u"Answer"_s});
+}
+
+TEST_F(ForcePlateMenu, leaves_a_missing_program_to_the_runner)
+{
+    chooseTrial();
+    machine.files.remove(u"C:\\KINOVRA\\fphist.exe"_s);
+    click(frm.mnuForce[1]);
+    EXPECT_EQ(messages(),
+              QStringList(u"Error opening file: \"C:\\KINOVRA\\FPHIST.EXE\"  (53)\nFile not found"_s));
+    EXPECT_EQ(kinovra.Answer, 1);
+    EXPECT_THAT(machine.programs.started, IsEmpty());
+}
+
+class AnimateMenu : public support::PanelFixture
+{
+protected:
+    void SetUp() override
+    {
+        addData({"-my walk.dg"});
+        load();
+    }
+
+    void chooseTrial()
+    {
+        click(frm.filDatafiles, u"-my walk.dg"_s);
+        forget();
+        mark();
+    }
+};
+
+TEST_F(AnimateMenu, starts_skelvo_on_the_trials_file)
+{
+    chooseTrial();
+    const char *extensions[]{".dg", ".cn", ".km", ".sn", "", ""};
+    for (int index : {0, 1, 2, 3, 4, -1}) {
+        const QString file = u"-my walk"_s + QLatin1String(extensions[index < 0 ? 5 : index]);
+        forget();
+        mark();
+        launcher::mnuSkelvo_Click(panel, index);
+        EXPECT_THAT(machine.programs.started,
+                    ElementsAre(Start{QString(), u"C:\\KINOVRA\\Skelvo.exe"_s,
+                                      u" "_s + CommandText::document(file), u"C:\\DATA"_s, Show::Shown}));
+        EXPECT_EQ(kinovra.ProgName, u"Skelvo"_s);
+        EXPECT_EQ(frm.ProgPath, u"C:\\KINOVRA\\Skelvo.exe"_s);
+        EXPECT_EQ(kinovra.SelectedFile, file);
+        EXPECT_EQ(frm.lblCommand.Caption.value(), u"c:\\kinovra\\skelvo.exe "_s + file);
+        EXPECT_TRUE(frm.lblCommand.Visible);
+        EXPECT_EQ(kinovra.TaskId, machine.programs.nextTask - 1);
+        QStringList changed{u"ProgName"_s, u"ProgPath"_s, u"SelectedFile"_s, u"TaskId"_s, u"lblCommand"_s};
+        if (index == 2)
+            changed.append(u"Answer"_s);
+        expectMarkedBut(changed);
+    }
+    EXPECT_THAT(machine.dialogs.messages, IsEmpty());
+}
+
+TEST_F(AnimateMenu, hands_over_filtered_data_with_their_segments)
+{
+    addData({"-my walk.ks"});
+    chooseTrial();
+    click(frm.mnuSkelvo[2]);
+    EXPECT_THAT(machine.files.tested, ElementsAre(u"C:\\DATA\\-MY WALK.KS"_s));
+    EXPECT_EQ(kinovra.Answer, 0);
+    ASSERT_EQ(machine.programs.started.size(), 1U);
+    const Start &start = machine.programs.started[0];
+    EXPECT_EQ(start.text(), u"C:\\KINOVRA\\Skelvo.exe  /g -my walk.km"_s);
+    EXPECT_EQ(start.parameters.arguments(), (QStringList{u"/g"_s, u"-my walk.km"_s}));
+    EXPECT_EQ(kinovra.SelectedFile, u" /g -my walk.km"_s);
+    EXPECT_EQ(frm.lblCommand.Caption.value(), u"c:\\kinovra\\skelvo.exe  /g -my walk.km"_s);
+
+    machine.files.remove(u"C:\\DATA\\-my walk.ks"_s);
+    forget();
+    click(frm.mnuSkelvo[2]);
+    EXPECT_EQ(kinovra.Answer, 53);
+    EXPECT_EQ(machine.programs.started.at(0).text(), u"C:\\KINOVRA\\Skelvo.exe -my walk.km"_s);
+}
+
+TEST_F(AnimateMenu, asks_for_segments_with_filtered_data_only)
+{
+    addData({"-my walk.ks"});
+    chooseTrial();
+    for (size_t i : {0, 1, 3}) {
+        forget();
+        click(frm.mnuSkelvo[i]);
+        EXPECT_THAT(machine.files.tested, IsEmpty());
+        EXPECT_FALSE(machine.programs.started.at(0).text().contains(u"/g"_s));
+    }
+}
+
+TEST_F(AnimateMenu, enables_what_the_trial_has_when_it_opens)
+{
+    chooseTrial();
+    struct Row
+    {
+        const char *present;
+        const char *enabled;
+    };
+    const Row table[]{
+        {"", "xxxx"},        {".dg", "0xxx"},         {".cn", "x1xx"},         {".dg .cn", "01xx"},
+        {".km", "xx2x"},     {".dg .km", "0x2x"},     {".cn .km", "x12x"},     {".dg .cn .km", "012x"},
+        {".sn", "xxx3"},     {".dg .sn", "0xx3"},     {".cn .sn", "x1x3"},     {".dg .cn .sn", "01x3"},
+        {".km .sn", "xx23"}, {".dg .km .sn", "0x23"}, {".cn .km .sn", "x123"}, {".dg .cn .km .sn", "0123"}};
+    for (const Row &row : table) {
+        haveOnly(u"-my walk"_s, ".dg .cn .km .sn", row.present);
+        openMenu(frm.mnuImages);
+        EXPECT_EQ(enabledOf(frm.mnuSkelvo), QString(QLatin1String(row.enabled))) << row.present;
+    }
+    forget();
+    openMenu(frm.mnuImages);
+    EXPECT_THAT(machine.files.tested, ElementsAre(u"C:\\DATA\\-MY WALK.DG"_s, u"C:\\DATA\\-MY WALK.CN"_s,
+                                                  u"C:\\DATA\\-MY WALK.KM"_s, u"C:\\DATA\\-MY WALK.SN"_s));
+    EXPECT_THAT(machine.dialogs.messages, IsEmpty());
+    expectMarkedBut({});
+}
+
+TEST_F(AnimateMenu, asks_for_a_trial_first_and_stays_closed)
+{
+    EXPECT_TRUE(frm.mnuImages.AsksOnOpening());
+    EXPECT_FALSE(frm.mnuImages.OpensAfterAsking);
+    for (auto &item : frm.mnuSkelvo)
+        item.Enabled = true;
+    frm.filDatafiles.Visible = false;
+    mark();
+    openMenu(frm.mnuImages);
+    EXPECT_THAT(
+        machine.dialogs.messages,
+        ElementsAre(MessageBox{u"Select a trial from the Data or Model menus first."_s, Icon::Exclamation}));
+    EXPECT_EQ(enabledOf(frm.mnuSkelvo), u"0123"_s);
+    EXPECT_TRUE(frm.filDatafiles.Visible);
+    EXPECT_THAT(machine.files.tested, IsEmpty());
+    expectMarkedBut({});
+    chooseTrial();
+    EXPECT_FALSE(frm.mnuImages.AsksOnOpening());
+}

@@ -37,6 +37,9 @@ constexpr const char *FileNames[]{"walk1.dg",     "walk1.cn",  "walk1.cfb",    "
                                   "x.sim",        "noise.out", "Interact.out", "kick.cf",  "kick.3d",
                                   "walk1.ren",    "walk1.cda", "walk1.rf2"};
 
+constexpr const char *TypedNames[]{"SUB",       "new", "new\\below", "..\\EMPTY",
+                                   "D:\\stick", "x:y", "walk1.dg",   ""};
+
 /// The state that commands share, by the name of each variable.
 using State = QMap<QString, QString>;
 
@@ -60,8 +63,11 @@ protected:
         for (const char *file : FileNames)
             addFile(u"C:\\DATA\\"_s + QLatin1String(file), "title\r\n");
         addFile(u"C:\\One Model\\only.cfb"_s);
+        for (const char *program : {"fphist.exe", "fpsig.exe", "notepad.exe"})
+            addFile(u"C:\\KINOVRA\\"_s + QLatin1String(program));
         machine.files.setShortName(u"C:\\One Model\\only.cfb"_s, u"ONLY~1.CFB"_s);
         machine.files.beforeCall = [this](const QString &) { failNowAndThen(); };
+        machine.dialogs.whileChoosing = [this] { failNowAndThen(); };
         machine.dialogs.whileShown = [this](const platform::MessageBox &box) { answerAtRandom(box); };
         collectEvents();
     }
@@ -267,11 +273,20 @@ protected:
         while (!oneIn(3))
             machine.dialogs.chosenFiles.emplace_back(
                 QLatin1String(ChosenFiles[pick(std::size(ChosenFiles))]));
+        machine.dialogs.typed.clear();
+        while (!oneIn(3))
+            machine.dialogs.typed.emplace_back(QLatin1String(TypedNames[pick(std::size(TypedNames))]));
+        machine.dialogs.hasPrinter = oneIn(2);
         // The package comes and goes as well.
-        if (oneIn(4))
-            machine.files.remove(u"C:\\KINOVRA\\kinemati.exe"_s);
-        else
-            addFile(u"C:\\KINOVRA\\kinemati.exe"_s);
+        for (const char *name : {"kinemati.exe", "graph.exe", "notepad.exe", "graphs\\RUN.GRA"}) {
+            const QString file = u"C:\\KINOVRA\\"_s + QLatin1String(name);
+            if (oneIn(4))
+                machine.files.remove(file);
+            else
+                addFile(file);
+        }
+        if (oneIn(20))
+            machine.files.remove(u"C:\\KINOVRA\\graphs"_s);
     }
 
     void runOneEvent() { events[static_cast<size_t>(pick(events.size()))](); }
@@ -341,6 +356,21 @@ protected:
             {"System information is unavailable at this time.", {}},
             {"The current version of ", {u"TaskId"_s}},
             {R"(Error opening file: "C:\KINOVRA\WORK.TXT")", {u"ViewerFile"_s, u"Answer"_s}},
+            {"Select a trial from the Select trial menu.", {}},
+            {"No force data files (.rf) were found for this trial.", {u"Answer"_s}},
+            {R"(Error opening file: "C:\KINOVRA\FPANALYZ.EXE")",
+             {u"ProgName"_s, u"ProgPath"_s, u"Comm"_s, u"Answer"_s}},
+            {R"(Error opening file: "C:\KINOVRA\GRAPH.EXE")",
+             {u"ProgName"_s, u"ProgPath"_s, u"Comm"_s, u"Answer"_s, u"BinaryFile"_s}},
+            {"Error opening file: \n", {u"Answer"_s}},
+            {"No binary files in this directory.", {}},
+            {"The data directory was not found.", {}},
+            {"The \\GRAPHS subdirectory was not found.", {}},
+            {"Click or double-click on a graph (.PLT)", {}},
+            {"First select a graph (.PLT)", {}},
+            {"Do you want to remove the current directory, ", {u"TaskId"_s}},
+            {"There is something of this name already", {}},
+            {"No printer was found on this computer.", {}},
         };
         const auto &messages = machine.dialogs.messages;
         if (messages.size() != 1 || inPause)
@@ -385,7 +415,11 @@ protected:
             EXPECT_LT(list->ListIndex.value(), list->ListCount());
         }
         EXPECT_LT(frm.dirSelect.ListIndex.value(), frm.dirSelect.RowCount());
-        EXPECT_NE(frm.filGraFiles.Visible.value(), frm.cmdGraph.Visible.value());
+        // They share a place, which a command that finds no graph types leaves empty until the next Refresh.
+        EXPECT_FALSE(frm.filGraFiles.Visible && frm.cmdGraph.Visible);
+        EXPECT_EQ(frm.filGraFiles.Visible.value(), frm.lblGraFiles.Visible.value());
+        EXPECT_EQ(frm.cmdGraph.Visible.value(), frm.cmdSelectGra.Visible.value());
+        EXPECT_FALSE(frm.mnuGraphOptions[0].Checked && frm.mnuGraphOptions[1].Checked);
         for (const auto &start : machine.programs.started)
             EXPECT_EQ(start.directory.isEmpty(), start.file == kinovra.WebHome);
         EXPECT_NE(viewer.txtViewer.BackColor.value(), viewer.txtViewer.ForeColor.value());
@@ -420,7 +454,7 @@ TEST_F(RandomEvents, never_break_the_panel)
         forget();
     }
     EXPECT_GT(refusalsChecked, 1000);
-    EXPECT_GT(checked.size(), 20);
+    EXPECT_GT(checked.size(), 32);
     EXPECT_GT(endings, 50);
     EXPECT_EQ(machine.settings.readKeys.size(), 6) << "settings are read at the start only";
 }
