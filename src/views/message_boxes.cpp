@@ -23,6 +23,11 @@ using platform::Answer;
 using platform::Buttons;
 using platform::Icon;
 
+constexpr QChar ZeroWidthSpace(0x200B);
+/// Of an input box, in pixels.
+constexpr int PromptWidth = 400;
+constexpr int LongestWord = 30;
+
 QMessageBox::StandardButtons standardButtons(Buttons buttons)
 {
     switch (buttons) {
@@ -80,6 +85,22 @@ bool isPattern(const QString &fileName)
     return fileName.contains(u'*') || fileName.contains(u'?');
 }
 
+// Lets lines break in a path, which has no blanks: behind its backslashes, and within long names.
+QString breakable(const QString &text)
+{
+    QString result;
+    int whole = 0;
+    for (QChar c : text) {
+        result += c;
+        whole = c == u' ' ? 0 : whole + 1;
+        if (c != u'\\' && (whole < LongestWord || c.isHighSurrogate()))
+            continue;
+        result += ZeroWidthSpace;
+        whole = 0;
+    }
+    return result;
+}
+
 // The window that a box belongs to: the active one. While another program is active, or the active window has
 // been minimized and its box would go with it, that is the main window.
 QWidget *owner()
@@ -113,11 +134,12 @@ std::optional<QString> MessageBoxes::input(const platform::InputBox &box)
     closeMenus();
     QInputDialog window(owner());
     window.setWindowTitle(box.title);
-    window.setLabelText(platform::displayLines(box.prompt));
+    window.setLabelText(breakable(platform::displayLines(box.prompt)));
     // It would take a directory's name for mark-up, and grow with every path.
     auto *prompt = window.findChild<QLabel *>();
     prompt->setTextFormat(Qt::PlainText);
     prompt->setWordWrap(true);
+    prompt->setFixedWidth(PromptWidth);
     if (window.exec() != QDialog::Accepted)
         return std::nullopt;
     return window.textValue();

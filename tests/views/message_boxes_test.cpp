@@ -1,4 +1,5 @@
 #include "printing.h"
+#include "scratch_directory.h"
 #include "view_fixture.h"
 #include "views/message_boxes.h"
 
@@ -6,6 +7,8 @@
 #include <QColorDialog>
 #include <QComboBox>
 #include <QFileDialog>
+#include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -126,6 +129,46 @@ TEST_F(MessageBoxViews, let_the_user_choose_a_colour)
         dialog.reject();
     });
     EXPECT_EQ(boxes.chooseColour(0x123456), std::nullopt);
+}
+
+TEST_F(MessageBoxViews, ask_for_a_text)
+{
+    show();
+    whenShown<QInputDialog>([this](QInputDialog &dialog) {
+        EXPECT_EQ(dialog.windowTitle(), u"Make a subdirectory."_s);
+        EXPECT_EQ(dialog.findChild<QLabel *>()->text(), u"Name?"_s);
+        EXPECT_EQ(dialog.textValue(), QString());
+        EXPECT_EQ(dialog.parentWidget(), &window());
+        QTest::keyClicks(dialog.findChild<QLineEdit *>(), u" my walks "_s);
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    EXPECT_EQ(boxes.input({u"Name?"_s, u"Make a subdirectory."_s}), u" my walks "_s);
+    whenShown<QInputDialog>([](QInputDialog &dialog) {
+        QTest::keyClicks(dialog.findChild<QLineEdit *>(), u"walks"_s);
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    EXPECT_EQ(boxes.input({u"Name?"_s}), std::nullopt);
+}
+
+TEST_F(MessageBoxViews, show_the_prompt_of_a_text_as_it_stands_in_a_box_that_fits)
+{
+    const QString directory = u"c:\\<b>&amp;\\"_s + QString(400, u'w');
+    whenShown<QInputDialog>([&directory](QInputDialog &dialog) {
+        const auto *prompt = dialog.findChild<QLabel *>();
+        EXPECT_EQ(prompt->textFormat(), Qt::PlainText);
+        EXPECT_EQ(prompt->text().remove(QChar(0x200B)), u"Enter a name for "_s + directory);
+        EXPECT_LE(dialog.width(), 600);
+        EXPECT_LE(prompt->sizeHint().width(), dialog.width());
+        EXPECT_LE(prompt->heightForWidth(prompt->width()), prompt->height());
+        dialog.reject();
+    });
+    boxes.input({u"Enter a name for "_s + directory});
+}
+
+TEST_F(MessageBoxViews, say_that_there_is_no_printer_to_set_up)
+{
+    const support::ScopedVariable noServer("CUPS_SERVER", "/nowhere");
+    EXPECT_FALSE(boxes.setUpPrinter());
 }
 
 TEST_F(MessageBoxViews, break_lines_where_the_text_does)
