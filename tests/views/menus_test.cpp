@@ -152,6 +152,41 @@ TEST_F(MenuViews, ask_with_all_menus_closed_and_open_again_afterwards)
     EXPECT_EQ(messages().size(), 1);
 }
 
+TEST_F(MenuViews, stay_closed_where_there_is_nothing_to_be_chosen_without_a_trial)
+{
+    bool menuOpen = true;
+    machine.dialogs.whileShown = [&](const platform::MessageBox &) {
+        menuOpen = QApplication::activePopupWidget() != nullptr;
+    };
+    openFromBar(u"&Animate"_s);
+    EXPECT_TRUE(waitUntil([this] { return messages().size() == 1; }));
+    settle();
+    EXPECT_FALSE(menuOpen);
+    EXPECT_EQ(messages(), QStringList{u"Select a trial from the Data or Model menus first."_s});
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    click(frm.filDatafiles, u"walk1.dg"_s);
+    openFromBar(u"&Animate"_s);
+    EXPECT_TRUE(menu(u"&Animate"_s)->isVisible());
+    EXPECT_TRUE(action(menu(u"&Animate"_s), u"&Digitized data (.DG)"_s)->isEnabled());
+    EXPECT_TRUE(action(menu(u"&Animate"_s), u"&Refined data (.CN)"_s)->isEnabled());
+    EXPECT_FALSE(action(menu(u"&Animate"_s), u"&Filtered data (.KM)"_s)->isEnabled());
+    EXPECT_EQ(messages().size(), 1);
+}
+
+TEST_F(MenuViews, grey_out_the_force_commands_in_their_submenu)
+{
+    click(frm.filDatafiles, u"walk1.dg"_s);
+    openFromBar(u"&View"_s);
+    QMenu *forces = menu(u"&Forces ..."_s);
+    menu(u"&View"_s)->setActiveAction(forces->menuAction());
+    ASSERT_TRUE(waitUntil([&] { return forces->isVisible(); }));
+    EXPECT_FALSE(action(forces, u"&Histories"_s)->isEnabled());
+    window().menuBar()->setActiveAction(nullptr);
+    addData({"walk1.rf"});
+    openFromBar(u"&View"_s);
+    EXPECT_TRUE(action(forces, u"&Histories"_s)->isEnabled());
+}
+
 TEST_F(MenuViews, do_not_ask_a_user_who_passes_along)
 {
     machine.files.remove(u"C:\\DATA\\walk1.cfb"_s);
