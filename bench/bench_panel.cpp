@@ -11,6 +11,11 @@ platform::Answer SilentDialogs::message(const platform::MessageBox &box)
                : platform::No;
 }
 
+std::optional<QString> SilentDialogs::input(const platform::InputBox &)
+{
+    return std::nullopt;
+}
+
 std::optional<QString> SilentDialogs::openFile(const platform::OpenFileRequest &)
 {
     return std::nullopt;
@@ -24,6 +29,11 @@ std::optional<QString> SilentDialogs::saveFile(const platform::SaveFileRequest &
 std::optional<platform::Colour> SilentDialogs::chooseColour(platform::Colour)
 {
     return std::nullopt;
+}
+
+bool SilentDialogs::setUpPrinter()
+{
+    return false;
 }
 
 BenchPanel::BenchPanel(const QString &settings) : settings_(settings)

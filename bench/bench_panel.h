@@ -15,9 +15,11 @@ class SilentDialogs : public platform::Dialogs
 {
 public:
     platform::Answer message(const platform::MessageBox &box) override;
+    std::optional<QString> input(const platform::InputBox &box) override;
     std::optional<QString> openFile(const platform::OpenFileRequest &request) override;
     std::optional<QString> saveFile(const platform::SaveFileRequest &request) override;
     std::optional<platform::Colour> chooseColour(platform::Colour initial) override;
+    bool setUpPrinter() override;
 };
 
 /// A panel on the real host, with settings of its own.
