@@ -1,6 +1,9 @@
 #include "graphs/graph_types.h"
 
 #include "browser/file_lists.h"
+#include "shell/dispatch.h"
+
+using namespace Qt::StringLiterals;
 
 namespace graphs {
 
@@ -19,6 +22,8 @@ void hideGraphButtons(Panel &panel)
     frm.cmdGraph.Visible = false;
     frm.cmdSelectGra.Visible = false;
     frm.cmdEditGra.Visible = false;
+    if (!frm.filGraFiles.Visible)
+        shell::say(panel, u"\"Refresh File Lists\" brings the graph buttons back."_s);
 }
 
 } // namespace graphs

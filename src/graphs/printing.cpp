@@ -2,6 +2,7 @@
 
 #include "browser/file_lists.h"
 #include "launcher/starting.h"
+#include "platform/runtime_error.h"
 #include "shell/dispatch.h"
 
 using namespace Qt::StringLiterals;
@@ -28,7 +29,11 @@ void mnuGraphPrint_Click(Panel &panel, int index)
     if (index < 0 || static_cast<size_t>(index) >= PrinterSwitches.size())
         return;
     browser::refresh(panel, {&frm.filPlots});
-    browser::pointAt(panel, frm.filPlots, kinovra.DataDir);
+    try {
+        browser::pointAt(panel, frm.filPlots, kinovra.DataDir);
+    } catch (const platform::RuntimeError &) {
+        // The refresh has emptied the list, and the status bar says why.
+    }
     if (frm.filPlots.ListCount() == 0) {
         MsgBox(panel, {u"No graphs in this directory."_s, Icon::Exclamation});
         frm.lblPlots.Visible = false;

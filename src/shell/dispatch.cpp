@@ -2,6 +2,8 @@
 
 #include "platform/runtime_error.h"
 
+using namespace Qt::StringLiterals;
+
 namespace shell {
 
 namespace {
@@ -117,7 +119,8 @@ void say(Panel &panel, const QString &text)
 void sayToo(Panel &panel, const QString &text)
 {
     const QString said = panel.frm.StatusBar1.Panel1;
-    say(panel, said.isEmpty() ? text : said + u' ' + text);
+    const QString between = said.endsWith(u'.') ? u" "_s : u". "_s;
+    say(panel, said.isEmpty() ? text : said + between + text);
 }
 
 } // namespace shell

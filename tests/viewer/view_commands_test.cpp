@@ -104,6 +104,7 @@ TEST_F(ViewMenu, shows_the_graph_types_in_place_of_the_buttons)
         button->Visible = true;
     click(frm.mnuView[2]);
     expectVisible({&frm.filGraFiles, &frm.lblGraFiles});
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(), QString());
     EXPECT_EQ(frm.filGraFiles.Names.value().toList(), (QStringList{u"RUN.GRA"_s, u"STICK.GRA"_s}));
     EXPECT_THAT(machine.dialogs.messages, IsEmpty());
     expectMarkedBut({});
@@ -123,7 +124,7 @@ TEST_F(ViewMenu, hides_types_and_buttons_where_there_are_no_types)
         machine.dialogs.messages,
         ElementsAre(MessageBox{u"No .GRA files were found in the program directory."_s, Icon::Exclamation}));
     expectVisible({});
-    // Refresh brings the buttons back.
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"\"Refresh File Lists\" brings the graph buttons back."_s);
     click(frm.cmdRefresh);
     EXPECT_TRUE(frm.cmdGraph.Visible);
 }
