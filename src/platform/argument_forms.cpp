@@ -14,34 +14,64 @@ namespace {
 struct TerminalForm
 {
     const char *name;
-    const char *option; ///< what stands between the terminal and the command
+    const char *command;        ///< what stands between the terminal and a command
+    const char *maximized = ""; ///< what lets it begin with a maximized window, where it can
 };
 
-constexpr std::array<TerminalForm, 10> TerminalForms{{
+constexpr std::array<TerminalForm, 12> TerminalForms{{
     {"xdg-terminal-exec", ""},
-    {"gnome-terminal", "--"},
+    {"gnome-terminal", "--", "--maximize"},
     {"kgx", "--"},
     {"ptyxis", "--"},
-    {"xfce4-terminal", "-x"},
-    {"mate-terminal", "-x"},
-    {"terminator", "-x"},
-    {"kitty", ""},
-    {"foot", ""},
+    {"xfce4-terminal", "-x", "--maximize"},
+    {"mate-terminal", "-x", "--maximize"},
+    {"terminator", "-x", "--maximise"},
+    {"kitty", "", "--start-as=maximized"},
+    {"foot", "", "--maximized"},
     {"wezterm", "start --"},
+    {"alacritty", "-e", "-o window.startup_mode=\"Maximized\""},
+    {"xterm", "-e", "-maximized"},
 }};
+
+// Every other terminal follows the oldest one: everything behind "-e" is the command.
+constexpr TerminalForm OtherTerminal{"", "-e"};
+
+TerminalForm terminalForm(const QString &terminal)
+{
+    const QString name = terminal.mid(terminal.lastIndexOf(u'/') + 1);
+    const auto form = std::find_if(TerminalForms.begin(), TerminalForms.end(),
+                                   [&name](const TerminalForm &f) { return name == QLatin1String(f.name); });
+    return form == TerminalForms.end() ? OtherTerminal : *form;
+}
+
+QStringList pieces(const char *options)
+{
+    return QString(QLatin1String(options)).split(u' ', Qt::SkipEmptyParts);
+}
 
 bool hasBlank(const QString &text)
 {
     return text.contains(u' ') || text.contains(u'\t');
 }
 
+[[noreturn]] void refuseForDos(const QString &text)
+{
+    throw RuntimeError(ErrorNumber::InvalidProcedureCall,
+                       u"\"%1\" cannot be given to a DOS program"_s.arg(text));
+}
+
 void refuseDosSyntax(const QString &text)
 {
     const auto isSyntax = [](QChar c) { return c < u' ' || QStringView(u"<>|%\"&^").contains(c); };
-    if (std::any_of(text.begin(), text.end(), isSyntax)) {
-        throw RuntimeError(ErrorNumber::InvalidProcedureCall,
-                           u"\"%1\" cannot be given to a DOS program"_s.arg(text));
-    }
+    if (std::any_of(text.begin(), text.end(), isSyntax))
+        refuseForDos(text);
+}
+
+// DOS knows no quotes: what holds a blank would be several names.
+void refuseBlanks(const QString &name)
+{
+    if (hasBlank(name))
+        refuseForDos(name);
 }
 
 } // namespace
@@ -71,6 +101,10 @@ QStringList dosboxArguments(const QString &dosbox, const QString &programDirecto
 {
     for (const QString &text : {programDirectory, name, dataDirectory, start.parameters.text()})
         refuseDosSyntax(text);
+    refuseBlanks(name);
+    const QList<CommandText::Range> documents = start.parameters.documents();
+    for (const CommandText::Range &document : documents)
+        refuseBlanks(start.parameters.text().mid(document.from, document.length));
     const auto mount = [](QChar drive, const QString &directory) {
         return u"MOUNT %1 \"%2\""_s.arg(drive).arg(directory);
     };
@@ -90,12 +124,12 @@ QStringList dosboxArguments(const QString &dosbox, const QString &programDirecto
 
 QStringList terminalArguments(const QString &terminal, const QStringList &command)
 {
-    const QString name = terminal.mid(terminal.lastIndexOf(u'/') + 1);
-    const auto form = std::find_if(TerminalForms.begin(), TerminalForms.end(),
-                                   [&name](const TerminalForm &f) { return name == QLatin1String(f.name); });
-    // Every other terminal follows the oldest one: everything behind "-e" is the command.
-    const QString option = QLatin1String(form == TerminalForms.end() ? "-e" : form->option);
-    return QStringList(terminal) + option.split(u' ', Qt::SkipEmptyParts) + command;
+    return QStringList(terminal) + pieces(terminalForm(terminal).command) + command;
+}
+
+QStringList maximizedWindow(const QString &terminal)
+{
+    return pieces(terminalForm(terminal).maximized);
 }
 
 } // namespace platform

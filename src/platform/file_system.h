@@ -102,13 +102,13 @@ public:
 
     /// Makes the directory `path`, and nothing above it. Begins the next moment. Raises PathFileAccess where
     /// something of this name is there already, in any case; BadFileName for what cannot be a name;
-    /// PathNotFound, PermissionDenied, DiskFull.
+    /// PathNotFound, PermissionDenied, DeviceUnavailable, DiskFull.
     virtual void makeDirectory(const QString &path) = 0;
 
     /// Removes the directory `path` where it is empty, and never anything else: no file, no root, nothing that
-    /// a link stands for. A drive text is refused, and letter case counts here: another directory must not go
-    /// in its place. Begins the next moment. Raises PathFileAccess, PathNotFound, PermissionDenied; the
-    /// description is the reason.
+    /// a link stands for. A drive text, "." and ".." are refused, and letter case counts here: another
+    /// directory must not go in its place. Begins the next moment. Raises PathFileAccess, PathNotFound,
+    /// BadFileName, PermissionDenied, DeviceUnavailable; the description is the reason.
     virtual void removeDirectory(const QString &path) = 0;
 
     /// Begins a moment, and ends it: in between all questions are answered for that moment, so that whether a

@@ -1,6 +1,8 @@
 // What every file system of the platform does, the one in memory as well as the host's.
 
 #include "memory_file_system.h"
+#include "platform/display_text.h"
+#include "platform/letter_case.h"
 #include "platform/linux/linux_file_system.h"
 #include "platform/runtime_error.h"
 #include "printing.h"
@@ -128,6 +130,23 @@ protected:
             return error.Number;
         }
         return 0;
+    }
+
+    /// The number of the error and its description; empty where there is none.
+    static QString refusal(const std::function<void()> &call)
+    {
+        try {
+            call();
+        } catch (const platform::RuntimeError &error) {
+            return QString::number(error.Number) + u' ' + error.Description;
+        }
+        return {};
+    }
+
+    /// What is listed of the directories in the base.
+    QStringList folders() const
+    {
+        return files.directory(world->base(), Reading::WhenChanged)->folders().toList();
     }
 
     std::unique_ptr<World> world = GetParam()();
@@ -494,6 +513,258 @@ TEST_P(FileSystemContract, copies_what_is_there_now_and_shows_it_within_the_same
     files.copyFile(at(u"walk1.cfb"_s), at(u"new.CFB"_s), Replacing::Refused);
     EXPECT_EQ(files.testReading(at(u"NEW.CFB"_s)), 0);
     files.endMoment();
+}
+
+TEST_P(FileSystemContract, makes_a_directory)
+{
+    world->makeDirectory(u"Sub"_s);
+    files.makeDirectory(at(u"My Walks"_s));
+    EXPECT_EQ(folders(), (QStringList{u"My Walks"_s, u"Sub"_s}));
+    EXPECT_EQ(files.directory(at(u"MY WALKS"_s), Reading::WhenChanged)->path(), at(u"My Walks"_s));
+    EXPECT_EQ(files.testReading(at(u"MY WALKS"_s)), 75);
+    files.makeDirectory(at(u"SUB\\Below"_s));
+    EXPECT_EQ(files.directory(at(u"Sub"_s), Reading::WhenChanged)->folders().toList(),
+              QStringList{u"Below"_s});
+    EXPECT_EQ(folders(), (QStringList{u"My Walks"_s, u"Sub"_s})) << "in the directory that is there";
+}
+
+TEST_P(FileSystemContract, makes_and_removes_directories_of_any_name)
+{
+    for (const QString &name : {u"-rf"_s, u"--help"_s, u"Anna & Bob's"_s, u"Läufer ß"_s, u"new "_s, u" new"_s,
+                                u"a.b.c"_s, u"new."_s, u"~"_s, u"%TEMP%"_s, u"$(x) `y` ;"_s, u"🏃"_s}) {
+        EXPECT_EQ(errorOf([&] { files.makeDirectory(at(name)); }), 0) << name.toStdString();
+        EXPECT_EQ(folders(), QStringList{name}) << name.toStdString();
+        EXPECT_EQ(files.directory(platform::UCase(at(name)), Reading::WhenChanged)->path(), at(name));
+        EXPECT_EQ(errorOf([&] { files.makeDirectory(at(name)); }), 75) << name.toStdString();
+        EXPECT_EQ(errorOf([&] { files.removeDirectory(at(name)); }), 0) << name.toStdString();
+        EXPECT_EQ(folders(), QStringList()) << name.toStdString();
+        EXPECT_EQ(files.testReading(at(name)), 53) << name.toStdString();
+    }
+}
+
+TEST_P(FileSystemContract, makes_and_removes_directories_below_the_current_one)
+{
+    world->makeDirectory(u"Sub"_s);
+    files.changeDrive(world->base());
+    files.changeDirectory(at(u"Sub"_s));
+    const QString labelled = world->base().left(1).toLower() + u": [a label]"_s;
+    files.makeDirectory(u"one"_s);
+    files.makeDirectory(labelled + u"\\two"_s);
+    files.makeDirectory(u"..\\three"_s);
+    files.makeDirectory(u"one\\.\\\\four\\"_s);
+    EXPECT_EQ(files.directory(at(u"Sub"_s), Reading::WhenChanged)->folders().toList(),
+              (QStringList{u"one"_s, u"two"_s}));
+    EXPECT_EQ(folders(), (QStringList{u"Sub"_s, u"three"_s}));
+    files.removeDirectory(u"one\\four"_s);
+    files.removeDirectory(u"one"_s);
+    files.removeDirectory(labelled + u"\\two"_s);
+    files.removeDirectory(u"..\\Sub\\..\\three"_s);
+    EXPECT_TRUE(files.directory(at(u"Sub"_s), Reading::WhenChanged)->folders().isEmpty());
+    EXPECT_EQ(folders(), QStringList{u"Sub"_s});
+}
+
+TEST_P(FileSystemContract, makes_no_directory_where_its_name_is_taken_in_any_case)
+{
+    world->makeDirectory(u"Sub"_s);
+    world->makeFile(u"Läufer.dg"_s, "x");
+    world->makeHidden(u"c.dg"_s);
+    world->makePipe(u"pipe"_s);
+    files.changeDrive(world->base());
+    files.changeDirectory(world->base());
+    const QString drive = world->base().left(2);
+    for (const QString &path :
+         {at(u"Sub"_s), at(u"sub"_s), at(u"SUB\\"_s), at(u"Läufer.dg"_s), at(u"LÄUFER.DG"_s), at(u".C.dg"_s),
+          at(u"PIPE"_s), world->base(), world->base() + u'\\', world->base().left(3), drive,
+          drive + u" [a label]"_s, drive + u" [a label]\\"_s, u"."_s, u".."_s, u"sub\\."_s, u"sub\\.."_s}) {
+        for (bool isKnown : {false, true}) {
+            if (isKnown)
+                files.directory(world->base(), Reading::WhenChanged);
+            EXPECT_EQ(refusal([&] { files.makeDirectory(path); }),
+                      u"75 There is something of this name already"_s)
+                << path.toStdString();
+        }
+    }
+    EXPECT_EQ(folders(), QStringList{u"Sub"_s});
+    EXPECT_EQ(world->content(u"Läufer.dg"_s), "x");
+}
+
+TEST_P(FileSystemContract, says_why_a_directory_cannot_be_made)
+{
+    world->makeFile(u"file"_s, "x");
+    const auto make = [&](const QString &path) { return errorOf([&] { files.makeDirectory(path); }); };
+    EXPECT_EQ(make(at(u"nowhere\\new"_s)), 76);
+    EXPECT_EQ(make(at(u"nowhere\\.\\new"_s)), 76);
+    EXPECT_EQ(make(at(u"file\\new"_s)), 76);
+    EXPECT_EQ(make(QString()), 76);
+    EXPECT_EQ(make(u"\\\\server\\share\\new"_s), 76);
+    EXPECT_EQ(make(u"Q:\\new"_s), 68);
+    EXPECT_EQ(make(u"Q:"_s), 68);
+    for (const QString &name :
+         {u"a:b"_s, u"C:\\new"_s, u"a/b"_s, u"/new"_s, u"new/"_s, u"../new"_s, u"new"_s + QChar(u'\0')})
+        EXPECT_EQ(make(at(name)), 52) << name.toStdString();
+    EXPECT_EQ(folders(), QStringList());
+    EXPECT_EQ(world->content(u"file"_s), "x");
+}
+
+TEST_P(FileSystemContract, makes_a_directory_with_quotes_in_its_name)
+{
+    files.makeDirectory(at(u"say \"hi\""_s));
+    ASSERT_EQ(folders().size(), 1);
+    EXPECT_EQ(platform::displayText(folders()[0]), u"say \"hi\""_s);
+    EXPECT_EQ(errorOf([&] { files.makeDirectory(at(u"SAY \"HI\""_s)); }), 75);
+    files.removeDirectory(at(folders()[0]));
+    EXPECT_EQ(folders(), QStringList());
+}
+
+TEST_P(FileSystemContract, removes_a_directory)
+{
+    world->makeDirectory(u"Sub"_s);
+    world->makeDirectory(u"Süb"_s);
+    world->makeFile(u"walk1.dg"_s, "x");
+    EXPECT_EQ(folders(), (QStringList{u"Sub"_s, u"Süb"_s}));
+    files.removeDirectory(at(u"Sub"_s));
+    EXPECT_EQ(folders(), QStringList{u"Süb"_s});
+    EXPECT_EQ(errorOf([&] { files.directory(at(u"Sub"_s), Reading::WhenChanged); }), 76);
+    EXPECT_EQ(errorOf([&] { files.changeDirectory(at(u"SUB"_s)); }), 76);
+    EXPECT_EQ(files.testReading(at(u"Sub\\walk1.dg"_s)), 76);
+    EXPECT_EQ(world->content(u"walk1.dg"_s), "x");
+    EXPECT_EQ(errorOf([&] { files.removeDirectory(at(u"Sub"_s)); }), 76) << "it has gone";
+    files.makeDirectory(at(u"SUB"_s));
+    EXPECT_EQ(files.directory(at(u"sub"_s), Reading::WhenChanged)->path(), at(u"SUB"_s));
+}
+
+TEST_P(FileSystemContract, removes_nothing_but_an_empty_directory)
+{
+    world->makeDirectory(u"full"_s);
+    world->makeFile(u"full\\walk1.dg"_s, "x");
+    world->makeDirectory(u"hiding"_s);
+    world->makeHidden(u"c.dg"_s);
+    world->makeFile(u"file"_s, "x");
+    world->makePipe(u"pipe"_s);
+    const auto remove = [&](const QString &path) { return refusal([&] { files.removeDirectory(path); }); };
+    EXPECT_EQ(remove(at(u"full"_s)), u"75 It is not empty"_s);
+    EXPECT_EQ(remove(at(u"full\\"_s)), u"75 It is not empty"_s);
+    EXPECT_EQ(remove(world->base()), u"75 It is not empty"_s);
+    EXPECT_EQ(errorOf([&] { files.removeDirectory(at(u"file"_s)); }), 75);
+    EXPECT_EQ(errorOf([&] { files.removeDirectory(at(u"pipe"_s)); }), 75);
+    EXPECT_EQ(remove(at(u"missing"_s)), u"76 Path not found"_s);
+    EXPECT_EQ(remove(at(u"missing\\full"_s)), u"76 Path not found"_s);
+    EXPECT_EQ(remove(at(u"file\\full"_s)), u"76 Path not found"_s);
+    EXPECT_EQ(world->content(u"file"_s), "x");
+    EXPECT_EQ(folders(), (QStringList{u"full"_s, u"hiding"_s}));
+    EXPECT_EQ(files.testReading(at(u"full\\walk1.dg"_s)), 0);
+    // What is hidden, and a directory, are something as well.
+    files.removeDirectory(at(u"hiding"_s));
+    world->remove(u"file"_s);
+    world->remove(u"pipe"_s);
+    world->remove(u"full"_s);
+    EXPECT_EQ(remove(world->base()), u"75 It is not empty"_s);
+    world->remove(u".c.dg"_s);
+    world->makeDirectory(u"below"_s);
+    EXPECT_EQ(remove(world->base()), u"75 It is not empty"_s);
+    world->remove(u"below"_s);
+    EXPECT_EQ(remove(world->base()), QString());
+    EXPECT_EQ(errorOf([&] { files.directory(world->base(), Reading::WhenChanged); }), 76);
+}
+
+TEST_P(FileSystemContract, removes_a_directory_by_its_exact_name_alone)
+{
+    world->makeDirectory(u"Sub"_s);
+    files.makeDirectory(at(u"Sub\\Below"_s));
+    files.directory(at(u"Sub\\Below"_s), Reading::WhenChanged);
+    for (const QString &name : {u"Sub\\below"_s, u"Sub\\BELOW"_s, u"sub\\Below"_s, u"SUB\\BELOW"_s})
+        EXPECT_EQ(errorOf([&] { files.removeDirectory(at(name)); }), 76) << name.toStdString();
+    for (const QString &name : {u"Sub/Below"_s, u"Sub\\x/../Below"_s, u"Sub\\../Sub/Below"_s, u"Sub:Below"_s,
+                                u"Sub\\Below"_s + QChar(u'\0')})
+        EXPECT_EQ(errorOf([&] { files.removeDirectory(at(name)); }), 52) << name.toStdString();
+    EXPECT_EQ(errorOf([&] { files.removeDirectory(u"\\\\server\\share"_s); }), 76);
+    EXPECT_EQ(errorOf([&] { files.removeDirectory(QString()); }), 76);
+    EXPECT_EQ(errorOf([&] { files.removeDirectory(u"Q:\\Sub"_s); }), 68);
+    EXPECT_EQ(folders(), QStringList{u"Sub"_s});
+    EXPECT_EQ(files.testReading(at(u"Sub\\Below"_s)), 75);
+    files.removeDirectory(at(u"Sub\\Below"_s));
+    EXPECT_EQ(files.testReading(at(u"Sub\\Below"_s)), 53);
+}
+
+TEST_P(FileSystemContract, removes_no_drive_and_no_directory_that_is_not_called_by_its_name)
+{
+    world->makeDirectory(u"Sub"_s);
+    files.makeDirectory(at(u"Sub\\Below"_s));
+    files.changeDrive(world->base());
+    files.changeDirectory(at(u"Sub\\Below"_s));
+    const QString drive = world->base().left(1).toLower() + u':';
+    for (const QString &path : {drive, drive.toUpper(), drive + u" [a label]"_s, drive + u" [a label]\\"_s,
+                                drive + u" \\\\server\\share"_s, drive + u'\\', u"\\"_s})
+        EXPECT_EQ(refusal([&] { files.removeDirectory(path); }), u"75 A drive cannot be removed"_s)
+            << path.toStdString();
+    for (const QString &path : {u"."_s, u".\\"_s, u".."_s, u"..\\..\\Sub\\Below\\."_s, drive + u'.',
+                                drive + u" [a label]\\."_s, at(u"Sub\\Below\\x\\.."_s)})
+        EXPECT_EQ(refusal([&] { files.removeDirectory(path); }), u"75 It must be called by its own name"_s)
+            << path.toStdString();
+    EXPECT_EQ(files.testReading(at(u"Sub\\Below"_s)), 75);
+}
+
+TEST_P(FileSystemContract, shows_what_was_made_and_removed_within_the_same_moment)
+{
+    files.directory(world->base(), Reading::Anew);
+    files.beginMoment();
+    EXPECT_EQ(folders(), QStringList());
+    EXPECT_EQ(files.testReading(at(u"NEW"_s)), 53);
+    files.makeDirectory(at(u"New"_s));
+    EXPECT_EQ(folders(), QStringList{u"New"_s});
+    EXPECT_EQ(files.testReading(at(u"NEW"_s)), 75);
+    EXPECT_EQ(files.testReading(at(u"NEW\\RUN1.DG"_s)), 53);
+    files.removeDirectory(at(u"New"_s));
+    EXPECT_EQ(folders(), QStringList());
+    EXPECT_EQ(files.testReading(at(u"NEW"_s)), 53);
+    EXPECT_EQ(files.testReading(at(u"NEW\\RUN1.DG"_s)), 76);
+    files.makeDirectory(at(u"NEW"_s));
+    EXPECT_EQ(folders(), QStringList{u"NEW"_s});
+    EXPECT_EQ(files.testReading(at(u"new\\run1.dg"_s)), 53);
+    files.endMoment();
+    EXPECT_EQ(folders(), QStringList{u"NEW"_s});
+}
+
+TEST_P(FileSystemContract, makes_and_removes_what_is_free_and_empty_now)
+{
+    world->makeDirectory(u"Sub"_s);
+    files.directory(at(u"Sub"_s), Reading::Anew);
+    files.directory(world->base(), Reading::Anew);
+    files.beginMoment();
+    EXPECT_EQ(files.testReading(at(u"TAKEN"_s)), 53);
+    EXPECT_EQ(files.testReading(at(u"SUB\\RUN1.DG"_s)), 53);
+    world->makeFile(u"taken"_s, "x");
+    world->makeFile(u"Sub\\run1.dg"_s, "x");
+    EXPECT_EQ(errorOf([&] { files.makeDirectory(at(u"TAKEN"_s)); }), 75);
+    EXPECT_EQ(files.testReading(at(u"TAKEN"_s)), 0) << "another moment has begun all the same";
+    EXPECT_EQ(files.testReading(at(u"RUN2.DG"_s)), 53);
+    world->makeFile(u"run2.dg"_s, "x");
+    EXPECT_EQ(errorOf([&] { files.removeDirectory(at(u"Sub"_s)); }), 75);
+    EXPECT_EQ(files.testReading(at(u"RUN2.DG"_s)), 0) << "another moment has begun all the same";
+    EXPECT_EQ(files.testReading(at(u"SUB\\RUN1.DG"_s)), 0);
+    world->remove(u"taken"_s);
+    world->remove(u"Sub"_s);
+    world->makeDirectory(u"Sub"_s);
+    EXPECT_EQ(errorOf([&] { files.makeDirectory(at(u"TAKEN"_s)); }), 0);
+    EXPECT_EQ(errorOf([&] { files.removeDirectory(at(u"Sub"_s)); }), 0);
+    EXPECT_EQ(folders(), QStringList{u"TAKEN"_s});
+    EXPECT_EQ(files.testReading(at(u"LATER\\RUN1.DG"_s)), 76);
+    world->makeDirectory(u"Later"_s);
+    EXPECT_EQ(errorOf([&] { files.makeDirectory(at(u"LATER\\Below"_s)); }), 0);
+    files.endMoment();
+}
+
+TEST_P(FileSystemContract, shows_what_is_made_and_removed_within_one_tick_of_the_clock)
+{
+    for (int i = 0; i < 50; ++i) {
+        const QString name = (i % 2 == 0 ? u"Walk"_s : u"WALK"_s) + QString::number(i / 4);
+        ASSERT_EQ(files.testReading(at(name).toUpper()), 53) << i;
+        files.makeDirectory(at(name));
+        ASSERT_EQ(folders(), QStringList{name}) << i;
+        ASSERT_EQ(files.testReading(at(name).toUpper()), 75) << i;
+        files.removeDirectory(at(name));
+        ASSERT_EQ(folders(), QStringList()) << i;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Platforms, FileSystemContract, testing::Values(&make<MemoryWorld>, &make<HostWorld>),

@@ -36,6 +36,20 @@ private:
     std::function<void(const QString &call)> beforeCall_;
 };
 
+// A drive, "." and ".." mean another directory as soon as the current one does.
+bool endsWithName(const QString &path)
+{
+    const QStringList names = platform::splitPath(path).Names;
+    return !names.isEmpty() && names.last() != u"." && names.last() != u"..";
+}
+
+// No system's names hold a slash.
+void requireSpellable(const QString &absolutePath)
+{
+    if (absolutePath.contains(u'/'))
+        throw RuntimeError(ErrorNumber::BadFileName);
+}
+
 } // namespace
 
 MemoryFileSystem::MemoryFileSystem()
@@ -307,13 +321,14 @@ void MemoryFileSystem::makeDirectory(const QString &path)
     announce("makeDirectory");
     nextMoment();
     const QString full = absolute(path);
-    if (find(full) != nullptr)
-        throw RuntimeError(ErrorNumber::PathFileAccess, u"There is something of this name already"_s);
+    requireSpellable(full);
     const Node *parent = find(platform::parentOf(full));
     if (parent == nullptr || !parent->isDirectory)
         throw RuntimeError(ErrorNumber::PathNotFound);
     if (parent->error)
         throw RuntimeError(*parent->error);
+    if (find(full) != nullptr || !endsWithName(path))
+        throw RuntimeError(ErrorNumber::PathFileAccess, u"There is something of this name already"_s);
     addDirectory(full);
     nextMoment();
 }
@@ -322,16 +337,17 @@ void MemoryFileSystem::removeDirectory(const QString &path)
 {
     announce("removeDirectory");
     nextMoment();
-    if (platform::isDriveText(path))
-        throw RuntimeError(ErrorNumber::PathFileAccess, u"A drive cannot be removed"_s);
     const QString full = absolute(path);
+    if (platform::splitPath(path).Names.isEmpty())
+        throw RuntimeError(ErrorNumber::PathFileAccess, u"A drive cannot be removed"_s);
+    if (!endsWithName(path))
+        throw RuntimeError(ErrorNumber::PathFileAccess, u"It must be called by its own name"_s);
+    requireSpellable(full);
     const Node *node = find(full);
     if (node == nullptr || node->path != full)
         throw RuntimeError(ErrorNumber::PathNotFound);
     if (node->error)
         throw RuntimeError(*node->error);
-    if (platform::parentOf(full) == full)
-        throw RuntimeError(ErrorNumber::PathFileAccess, u"A drive cannot be removed"_s);
     if (!node->isDirectory || node->isLink)
         throw RuntimeError(ErrorNumber::PathFileAccess, u"It is not a directory of its own"_s);
     const QString below = UCase(full) + u'\\';

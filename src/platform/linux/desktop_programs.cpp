@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
+#include <memory>
 #include <vector>
 
 #include <sys/stat.h>
@@ -166,6 +168,13 @@ QByteArray findInPath(const QByteArray &name)
             return path;
     }
     return {};
+}
+
+QByteArray withoutLinks(const QByteArray &program)
+{
+    const std::unique_ptr<char, decltype(&std::free)> path(::realpath(program.constData(), nullptr),
+                                                           &std::free);
+    return path ? QByteArray(path.get()) : program;
 }
 
 bool isAccessory(const QString &name)

@@ -54,6 +54,59 @@ QByteArray behindLink(const QByteArray &hostPath)
     return path.get();
 }
 
+QByteArray below(const QByteArray &directory, const QString &name)
+{
+    return (directory == "/" ? QByteArray() : directory) + '/' + toHostName(name);
+}
+
+// A drive, "." and ".." mean another directory as soon as the current one does.
+bool endsWithName(const QString &path)
+{
+    const QStringList names = splitPath(path).Names;
+    return !names.isEmpty() && names.last() != u"." && names.last() != u"..";
+}
+
+// A name that its directory would show in another spelling (a quote stands for itself in no name) or that
+// leads elsewhere is not the name of what would be made or removed.
+void requireTrueSpelling(const QString &absolutePath)
+{
+    const QStringList names = splitPath(absolutePath).Names;
+    for (const QString &name : names) {
+        if (name.contains(u'/') || fromHostName(toHostName(name)) != name)
+            throw RuntimeError(ErrorNumber::BadFileName);
+    }
+}
+
+// Whether a directory holds anything of this name, in any case, a link that leads nowhere included.
+bool isTaken(const QByteArray &directory, const QString &path, const QString &name)
+{
+    try {
+        return !readDirectory(directory, path).directory->find(name).isNull();
+    } catch (const RuntimeError &error) {
+        // It cannot be listed; the system still knows whether the exact name is taken.
+        if (error.Number != static_cast<qint16>(ErrorNumber::PermissionDenied))
+            throw;
+        return false;
+    }
+}
+
+[[noreturn]] void raiseTaken()
+{
+    throw RuntimeError(ErrorNumber::PathFileAccess, u"There is something of this name already"_s);
+}
+
+// Whether a directory is the root of a drive, by whatever path it was reached.
+bool isRoot(const DriveMap &drives, const struct stat &directory)
+{
+    for (char16_t letter = u'A'; letter <= u'Z'; ++letter) {
+        struct stat root = {};
+        if (drives.contains(letter) && ::stat(drives.toHost(rootOf(letter)).constData(), &root) == 0
+            && root.st_dev == directory.st_dev && root.st_ino == directory.st_ino)
+            return true;
+    }
+    return false;
+}
+
 class RegularFile : public OpenedFile
 {
 public:
@@ -218,17 +271,25 @@ void LinuxFileSystem::copyFile(const QString &source, const QString &destination
 void LinuxFileSystem::makeDirectory(const QString &path)
 {
     lookup_.nextMoment();
-    const QString absolute = current_.absolute(path);
-    // A name that is there in another case is taken as well.
-    const bool isTaken = lookup_.findFile(absolute).hostPath.has_value();
-    const auto directory = hostDocument(absolute);
-    if (!directory)
+    // A quote that was typed is one; within names the path language has another character for it.
+    const QString absolute = current_.absolute(path).replace(u'"', fromHostName("\""));
+    requireTrueSpelling(absolute);
+    const QString above = parentOf(absolute);
+    const QString name = nameOf(absolute);
+    const auto parent = lookup_.find(above);
+    if (!parent)
         throw RuntimeError(ErrorNumber::PathNotFound);
-    if (isTaken || ::mkdir(directory->constData(), 0777) != 0) {
-        if (isTaken || errno == EEXIST)
-            throw RuntimeError(ErrorNumber::PathFileAccess, u"There is something of this name already"_s);
+    if (!endsWithName(path) || isTaken(*parent, above, name))
+        raiseTaken();
+    if (::mkdir(below(*parent, name).constData(), 0777) != 0) {
+        if (errno == EEXIST)
+            raiseTaken();
+        // FAT and its like refuse a name in this way.
+        if (errno == EINVAL)
+            throw RuntimeError(ErrorNumber::BadFileName);
         raise(errno);
     }
+    // On the way to a directory through a link that directory itself may have been read.
     lookup_.nextMoment();
 }
 
@@ -236,10 +297,13 @@ void LinuxFileSystem::removeDirectory(const QString &path)
 {
     lookup_.nextMoment();
     const QString absolute = current_.absolute(path);
-    if (isDriveText(path) || absolute == rootOf(absolute.at(0)))
-        throw RuntimeError(ErrorNumber::PathFileAccess, u"A drive cannot be removed"_s);
     if (!drives_.contains(absolute.at(0)))
         throw RuntimeError(ErrorNumber::DeviceUnavailable);
+    if (splitPath(path).Names.isEmpty())
+        throw RuntimeError(ErrorNumber::PathFileAccess, u"A drive cannot be removed"_s);
+    if (!endsWithName(path))
+        throw RuntimeError(ErrorNumber::PathFileAccess, u"It must be called by its own name"_s);
+    requireTrueSpelling(absolute);
     const QByteArray directory = drives_.toHost(absolute);
     struct stat status = {};
     if (::lstat(directory.constData(), &status) != 0)
@@ -248,6 +312,9 @@ void LinuxFileSystem::removeDirectory(const QString &path)
         throw RuntimeError(ErrorNumber::PathFileAccess, u"It is a link to another directory"_s);
     if (!S_ISDIR(status.st_mode))
         throw RuntimeError(ErrorNumber::PathFileAccess, u"It is not a directory"_s);
+    if (isRoot(drives_, status))
+        throw RuntimeError(ErrorNumber::PathFileAccess, u"A drive cannot be removed"_s);
+    // Whatever has taken the name since, this follows no link and removes nothing but an empty directory.
     if (::rmdir(directory.constData()) != 0) {
         if (errno == ENOTEMPTY || errno == EEXIST)
             throw RuntimeError(ErrorNumber::PathFileAccess, u"It is not empty"_s);
@@ -255,7 +322,6 @@ void LinuxFileSystem::removeDirectory(const QString &path)
             throw RuntimeError(ErrorNumber::PathFileAccess, u"The system uses it"_s);
         raise(errno);
     }
-    lookup_.nextMoment();
 }
 
 QString LinuxFileSystem::hostForm(const QString &directory)
@@ -313,7 +379,7 @@ std::optional<QByteArray> LinuxFileSystem::hostDocument(const QString &path)
     const auto directory = lookup_.find(parentOf(absolute));
     if (!directory)
         return std::nullopt;
-    return (*directory == "/" ? QByteArray() : *directory) + '/' + toHostName(nameOf(absolute));
+    return below(*directory, nameOf(absolute));
 }
 
 QByteArray LinuxFileSystem::openable(const QString &path)

@@ -1,6 +1,7 @@
 #include "platform/linux/linux_programs.h"
 
 #include "platform/argument_forms.h"
+#include "platform/letter_case.h"
 #include "platform/linux/host_names.h"
 #include "platform/linux/program_file.h"
 #include "platform/runtime_error.h"
@@ -76,6 +77,11 @@ QString decoded(const QByteArray &path)
     return fromHostName(path);
 }
 
+QString notInstalled(const QString &accessory)
+{
+    return u"this desktop has no %1 installed"_s.arg(accessoryKind(accessory));
+}
+
 QString reason(int systemError)
 {
     switch (systemError) {
@@ -123,7 +129,7 @@ StartResult LinuxPrograms::start(const Start &start)
         const auto directory = anywhere ? QByteArray("/") : files_.hostDirectory(start.directory);
         if (!directory)
             return failed(FileNotFound, u"the directory %1 is gone"_s.arg(start.directory));
-        if (::access(directory->constData(), X_OK) != 0)
+        if (::faccessat(AT_FDCWD, directory->constData(), X_OK, AT_EACCESS) != 0)
             return failed(AccessDenied, u"the directory %1 may not be entered"_s.arg(start.directory));
         const Command command = commandFor(start, *directory);
         if (!command.failure.isEmpty())
@@ -178,21 +184,29 @@ LinuxPrograms::Command LinuxPrograms::commandFor(const Start &start, const QByte
 // The file is looked at before it is handed on: what an opener says about it is shown nowhere.
 LinuxPrograms::Command LinuxPrograms::documentCommand(const Start &start, const QByteArray &directory)
 {
-    QByteArray document = directory;
-    if (!start.file.isEmpty()) {
-        const auto found = isPlainName(start.file)
-                               ? files_.hostDocument(joinPath(start.directory, start.file))
-                               : std::nullopt;
-        struct stat status = {};
-        if (!found || ::stat(found->constData(), &status) != 0)
-            return {.failure = u"it was not found"_s};
-        if (!S_ISREG(status.st_mode))
-            return {.failure = u"it is not a file"_s};
-        if (::faccessat(AT_FDCWD, found->constData(), R_OK, AT_EACCESS) != 0)
-            return {.failure = u"permission was denied"_s, .failureValue = AccessDenied};
-        document = *found;
-    }
-    return openerCommand(document);
+    if (start.file.isEmpty())
+        return sameIgnoringCase(start.verb, u"explore") ? folderCommand(directory) : openerCommand(directory);
+    const auto found =
+        isPlainName(start.file) ? files_.hostDocument(joinPath(start.directory, start.file)) : std::nullopt;
+    struct stat status = {};
+    if (!found || ::stat(found->constData(), &status) != 0)
+        return {.failure = u"it was not found"_s};
+    if (!S_ISREG(status.st_mode))
+        return {.failure = u"it is not a file"_s};
+    if (::faccessat(AT_FDCWD, found->constData(), R_OK, AT_EACCESS) != 0)
+        return {.failure = u"permission was denied"_s, .failureValue = AccessDenied};
+    return openerCommand(*found);
+}
+
+LinuxPrograms::Command LinuxPrograms::folderCommand(const QByteArray &directory)
+{
+    const QString explorer = u"explorer.exe"_s;
+    if (const auto fileManager = desktopProgram(explorer))
+        return {.arguments = {fileManager->path, directory}};
+    Command command = openerCommand(directory);
+    if (!command.failure.isEmpty())
+        command.failure = notInstalled(explorer);
+    return command;
 }
 
 LinuxPrograms::Command LinuxPrograms::addressCommand(const Start &start)
@@ -214,8 +228,11 @@ LinuxPrograms::Command LinuxPrograms::accessoryCommand(const Start &start)
 {
     const auto program = desktopProgram(start.file);
     if (!program)
-        return {.failure = u"this desktop has no %1 installed"_s.arg(accessoryKind(start.file))};
-    return {.arguments = QList<QByteArray>{program->path} + encoded(documentArguments(start)),
+        return {.failure = notInstalled(start.file)};
+    // Only terminals are known by what lets them begin so.
+    const QStringList options =
+        start.show == Show::Maximized ? maximizedWindow(decoded(withoutLinks(program->path))) : QStringList();
+    return {.arguments = QList<QByteArray>{program->path} + encoded(options + documentArguments(start)),
             .inTerminal = program->inTerminal};
 }
 

@@ -10,7 +10,8 @@ namespace platform::host {
 
 /// Starts programs on the host: native ones and scripts as they are, Windows programs through Wine, DOS
 /// programs through DOSBox, console programs in a terminal where there is one. Documents and addresses go to
-/// the desktop's opener, whatever the verb.
+/// the desktop's opener, whatever the verb; a directory that is to be explored goes to its file manager where
+/// one is installed.
 class LinuxPrograms : public Programs
 {
 public:
@@ -25,6 +26,7 @@ private:
 
     Command commandFor(const Start &start, const QByteArray &directory);
     Command documentCommand(const Start &start, const QByteArray &directory);
+    static Command folderCommand(const QByteArray &directory);
     static Command addressCommand(const Start &start);
     static Command openerCommand(const QByteArray &argument);
     Command accessoryCommand(const Start &start);
