@@ -457,3 +457,11 @@ TEST_F(GraphCreation, ends_silently_when_the_window_is_closed_during_the_pause)
     EXPECT_EQ(said(), QString());
     EXPECT_EQ(machine.clock.pendingRuns, 0);
 }
+
+TEST_F(GraphCreation, says_so_beside_what_is_still_worth_reading)
+{
+    click(frm.mnuListing[0]);
+    machine.files.remove(u"C:\\KINOVRA\\Graph.exe"_s);
+    choose(Create);
+    EXPECT_EQ(said(), u"Graphics switch cleared. The binary file is Run1 now."_s);
+}
