@@ -465,3 +465,12 @@ TEST_F(GraphCreation, says_so_beside_what_is_still_worth_reading)
     choose(Create);
     EXPECT_EQ(said(), u"Graphics switch cleared. The binary file is Run1 now."_s);
 }
+
+TEST_F(GraphCreation, shows_its_arguments_before_the_whole_command)
+{
+    QStringList shown;
+    const auto follower = frm.lblCommand.Caption.addNotifier([&] { shown.append(frm.lblCommand.Caption); });
+    choose(Create);
+    EXPECT_EQ(shown, (QStringList{u"/C /A /Z Run1 Stick.gra"_s,
+                                  u"c:\\kinovra\\graph.exe /c /a /z run1 stick.gra"_s}));
+}
