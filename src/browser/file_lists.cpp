@@ -105,6 +105,16 @@ void sayBinaryFile(Panel &panel)
                                         : u"The binary file is %1 now."_s.arg(file));
 }
 
+void hideGraphButtons(Panel &panel)
+{
+    auto &frm = panel.frm;
+    frm.cmdGraph.Visible = false;
+    frm.cmdSelectGra.Visible = false;
+    frm.cmdEditGra.Visible = false;
+    if (!frm.filGraFiles.Visible)
+        shell::say(panel, u"\"Refresh File Lists\" brings the graph buttons back."_s);
+}
+
 void cmdRefresh_Click(Panel &panel)
 {
     auto [kinovra, frm, platform] = panel.parts();

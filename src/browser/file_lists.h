@@ -30,6 +30,10 @@ void refreshResultLists(Panel &panel);
 /// click.
 void sayBinaryFile(Panel &panel);
 
+/// Hides the three graph buttons, in whose place the graph types are shown. Where none are shown, the status
+/// bar says how the buttons come back.
+void hideGraphButtons(Panel &panel);
+
 /// The Refresh button and Ctrl+R: shows and refreshes all lists.
 void cmdRefresh_Click(Panel &panel);
 

@@ -2,7 +2,6 @@
 
 #include "graphs/graph_commands.h"
 #include "graphs/graph_options.h"
-#include "graphs/graph_types.h"
 #include "graphs/output_devices.h"
 #include "graphs/printing.h"
 #include "shell/connect_items.h"

@@ -3,7 +3,6 @@
 #include "browser/current_trial.h"
 #include "browser/file_lists.h"
 #include "graphs/graph_options.h"
-#include "graphs/graph_types.h"
 #include "launcher/program_runner.h"
 #include "launcher/starting.h"
 #include "platform/letter_case.h"
@@ -37,7 +36,7 @@ void selectBinary(Panel &panel)
 void selectType(Panel &panel)
 {
     viewer::mnuView_Click(panel, viewer::GraphTypes);
-    hideGraphButtons(panel);
+    browser::hideGraphButtons(panel);
     if (panel.frm.filGraFiles.ListCount() == 0)
         return;
     MsgBox(panel, {u"Click on a .GRA file from the 'Graph (.GRA) types' list."_s, Icon::Information});
@@ -156,6 +155,15 @@ void mnuGraph_Click(Panel &panel, int index)
 void cmdGraph_Click(Panel &panel)
 {
     mnuGraph_Click(panel, Create);
+}
+
+void cmdSelectGra_Click(Panel &panel)
+{
+    auto &frm = panel.frm;
+    browser::refresh(panel, {&frm.filGraFiles});
+    frm.filGraFiles.Visible = true;
+    frm.lblGraFiles.Visible = true;
+    browser::hideGraphButtons(panel);
 }
 
 } // namespace graphs

@@ -13,4 +13,7 @@ void mnuGraph_Click(Panel &panel, int index);
 /// Creates graphs, as the menu does.
 void cmdGraph_Click(Panel &panel);
 
+/// Shows the graph-type list in place of the three graph buttons. It says nothing.
+void cmdSelectGra_Click(Panel &panel);
+
 } // namespace graphs

@@ -3,7 +3,6 @@
 #include "browser/file_lists.h"
 #include "browser/test_file.h"
 #include "browser/trial_files.h"
-#include "graphs/graph_types.h"
 #include "launcher/starting.h"
 #include "platform/runtime_error.h"
 #include "shell/dispatch.h"
@@ -60,7 +59,7 @@ void showGraphTypes(Panel &panel)
         MsgBox(panel, {u"No .GRA files were found in the program directory."_s, Icon::Exclamation});
     frm.lblGraFiles.Visible = hasTypes;
     frm.filGraFiles.Visible = hasTypes;
-    graphs::hideGraphButtons(panel);
+    browser::hideGraphButtons(panel);
 }
 
 // Lets the user choose a file and hands its full path to `view`; a dialog that is cancelled ends it silently,
