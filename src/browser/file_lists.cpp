@@ -1,6 +1,7 @@
 #include "browser/file_lists.h"
 
 #include "platform/letter_case.h"
+#include "platform/path_language.h"
 #include "platform/runtime_error.h"
 #include "shell/dispatch.h"
 
@@ -11,6 +12,7 @@ namespace browser {
 namespace {
 
 using platform::Icon;
+using platform::LCase;
 using platform::Reading;
 using platform::RuntimeError;
 using platform::UCase;
@@ -24,7 +26,7 @@ void show(controls::FileList &list, controls::Label &label)
 
 void sayUnreadable(Panel &panel, const QString &path, const RuntimeError &error)
 {
-    shell::say(panel, u"%1 cannot be read: %2."_s.arg(path, error.Description));
+    shell::say(panel, u"%1 cannot be read: %2."_s.arg(platform::shortFormOf(path), LCase(error.Description)));
 }
 
 // The three graph buttons and the graph-type list take turns in one place.

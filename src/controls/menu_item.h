@@ -18,9 +18,10 @@ struct MenuItem
     Event Opening; ///< of a menu: it is about to open
 
     /// Of a menu: whether its Opening would raise a message box now. Such a menu opens only after the box is
-    /// answered, and passing along the menu bar does not ask.
+    /// answered. Passing along the menu bar does not ask: the menu is shown, and runs Passed instead.
     std::function<bool()> AsksOnOpening;
     bool OpensAfterAsking = false; ///< whether the menu opens once that box is answered
+    Event Passed;
 };
 
 /// A menu array: items of like commands, indexed from 0 in menu order.

@@ -139,6 +139,12 @@ void mnuSkelvo_Click(Panel &panel, int index)
     kinovra.TaskId = startDirectly(panel, frm.ProgPath, u" "_s + file, Show::Shown);
 }
 
+void mnuImages_Passed(Panel &panel)
+{
+    for (controls::MenuItem &item : panel.frm.mnuSkelvo)
+        item.Enabled = false;
+}
+
 void mnuImages_Click(Panel &panel)
 {
     if (browser::TestTrial(panel))

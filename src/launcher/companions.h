@@ -25,4 +25,7 @@ void mnuSkelvo_Click(Panel &panel, int index);
 /// The Animate menu opens: of its items those are enabled whose file is there. Without a trial it says so.
 void mnuImages_Click(Panel &panel);
 
+/// The Animate menu is shown without a trial to a user who passes along the menu bar: nothing can be chosen.
+void mnuImages_Passed(Panel &panel);
+
 } // namespace launcher

@@ -44,6 +44,7 @@ void connectCompanions(Panel &panel)
     shell::connectItems(panel, frm.mnuForce, mnuForce_Click);
     shell::connectItems(panel, frm.mnuSkelvo, mnuSkelvo_Click);
     frm.mnuImages.Opening = [&panel] { mnuImages_Click(panel); };
+    frm.mnuImages.Passed = [&panel] { mnuImages_Passed(panel); };
     frm.mnuImages.AsksOnOpening = [&panel] { return panel.kinovra.CurrentTrial.isEmpty(); };
     frm.cmdForces.Click = [&panel] { cmdForces_Click(panel); };
     frm.cmdSkelvo.Click = [&panel] { cmdSkelvo_Click(panel); };

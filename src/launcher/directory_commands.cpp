@@ -34,13 +34,13 @@ void restoreBrowsing(Panel &panel)
     frm.lblDatafiles.Visible = true;
 }
 
-// `name` as seen from `directory`, whatever the current directory has become. Raises BadFileName.
+// `name` as seen from `directory`, whatever the current directory has become.
 QString seenFrom(const QString &directory, const QString &name)
 {
-    const platform::PathParts parts = platform::splitPath(name);
-    if (parts.Drive || parts.Network)
+    const bool namesDrive = name.size() > 1 && name[1] == u':';
+    if (namesDrive || name.startsWith(u"\\\\"))
         return name;
-    return parts.Rooted ? directory.left(2) + name : joinPath(directory, name);
+    return name.startsWith(u'\\') ? directory.left(2) + name : joinPath(directory, name);
 }
 
 void makeSubdirectory(Panel &panel)
@@ -58,7 +58,8 @@ void makeSubdirectory(Panel &panel)
 void tellNotRemoved(Panel &panel, const QString &directory, const platform::RuntimeError &error)
 {
     // The box gives one reason for every failure; the status bar knows the true one.
-    shell::say(panel, u"%1 was not removed: %2."_s.arg(directory, LCase(error.Description)));
+    shell::say(panel,
+               u"%1 was not removed: %2."_s.arg(platform::shortFormOf(directory), LCase(error.Description)));
     MsgBox(panel, {u"Directory, "_s + LCase(directory) + u", was not empty."_s + panel.frm.LineBreak
                        + u"It was not removed."_s,
                    Icon::Exclamation});

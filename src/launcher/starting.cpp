@@ -19,8 +19,7 @@ QString nameForUser(const platform::Start &request)
 {
     if (request.target != Target::Document || !request.file.isEmpty())
         return platform::nameOf(request.file);
-    const QString &directory = request.directory;
-    return platform::nameOf(directory.endsWith(u'\\') ? directory.chopped(1) : directory);
+    return platform::shortFormOf(request.directory);
 }
 
 double start(Panel &panel, const platform::Start &request)

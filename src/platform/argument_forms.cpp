@@ -18,7 +18,7 @@ struct TerminalForm
     const char *maximized = ""; ///< what lets it begin with a maximized window, where it can
 };
 
-constexpr std::array<TerminalForm, 12> TerminalForms{{
+constexpr std::array<TerminalForm, 14> TerminalForms{{
     {"xdg-terminal-exec", ""},
     {"gnome-terminal", "--", "--maximize"},
     {"kgx", "--"},
@@ -31,6 +31,8 @@ constexpr std::array<TerminalForm, 12> TerminalForms{{
     {"wezterm", "start --"},
     {"alacritty", "-e", "-o window.startup_mode=\"Maximized\""},
     {"xterm", "-e", "-maximized"},
+    {"uxterm", "-e", "-maximized"},
+    {"lxterm", "-e", "-maximized"},
 }};
 
 // Every other terminal follows the oldest one: everything behind "-e" is the command.

@@ -105,8 +105,8 @@ public:
     /// PathNotFound, PermissionDenied, DeviceUnavailable, DiskFull.
     virtual void makeDirectory(const QString &path) = 0;
 
-    /// Removes the directory `path` where it is empty, and never anything else: no file, no root, nothing that
-    /// a link stands for. A drive text, "." and ".." are refused, and letter case counts here: another
+    /// Removes the directory `path` where it is empty, and never anything else: no file, no root, nothing
+    /// that a link stands for. A drive text, "." and ".." are refused, and letter case counts here: another
     /// directory must not go in its place. Begins the next moment. Raises PathFileAccess, PathNotFound,
     /// BadFileName, PermissionDenied, DeviceUnavailable; the description is the reason.
     virtual void removeDirectory(const QString &path) = 0;

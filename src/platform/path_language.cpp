@@ -109,6 +109,11 @@ QString nameOf(const QString &path)
     return path.mid(path.lastIndexOf(Backslash) + 1);
 }
 
+QString shortFormOf(const QString &directory)
+{
+    return nameOf(directory.endsWith(Backslash) ? directory.chopped(1) : directory);
+}
+
 QString CurrentDirectories::absolute(const QString &path) const
 {
     if (isAbsoluteAlready(path))

@@ -42,6 +42,9 @@ QString parentOf(const QString &path);
 /// The last name of an absolute path; empty for a root.
 QString nameOf(const QString &path);
 
+/// What stands for a directory where there is little room: its last name, or the drive of a root.
+QString shortFormOf(const QString &directory);
+
 /// The current drive, and the current directory of every drive that has one (the root where none is kept).
 class CurrentDirectories
 {

@@ -1,6 +1,7 @@
 #include "viewer/viewer_choice.h"
 
 #include "browser/test_file.h"
+#include "platform/letter_case.h"
 #include "platform/runtime_error.h"
 #include "shell/dispatch.h"
 
@@ -30,7 +31,7 @@ void selectViewer(Panel &panel)
                                                       .title = u"Select a text viewer."_s});
         kinovra.TextViewer = chosen.value_or(kinovra.TextViewer);
     } catch (const platform::RuntimeError &error) {
-        shell::say(panel, u"No text viewer was chosen: %1."_s.arg(error.Description));
+        shell::say(panel, u"No text viewer was chosen: %1."_s.arg(platform::LCase(error.Description)));
     }
 }
 

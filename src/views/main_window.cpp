@@ -23,6 +23,8 @@
 #include <QStatusBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace views {
@@ -32,14 +34,24 @@ namespace {
 constexpr int Margin = 8;
 constexpr int Gap = 4;
 constexpr int DirectoryColumn = 170;
-/// The height that the window has at first, in twips.
-constexpr int FirstHeight = 9000;
+/// In twips.
+constexpr int UsualHeight = 9000;
+/// What a desktop puts around a window, in pixels.
+constexpr int TitleHeight = 40;
 
 /// A caption without the "&" of its access key, as it is spoken.
 QString spoken(const QString &caption)
 {
     QString result = caption;
     return result.remove(u'&').trimmed();
+}
+
+// Of the window at first, in twips: a small screen leaves no room for its usual height below the title.
+int firstHeight()
+{
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    const int room = screen ? toTwips(screen->availableSize().height() - TitleHeight) : UsualHeight;
+    return std::clamp(room, shell::MainWindowLeastHeight, UsualHeight);
 }
 
 ElidedLabel *makeValue(Qt::TextElideMode mode)
@@ -268,8 +280,8 @@ void MainWindow::bindWindow()
 {
     setFixedWidth(toPixels(shell::MainWindowWidth));
     setMinimumHeight(toPixels(shell::MainWindowLeastHeight));
-    frm_.Height = FirstHeight;
-    resize(width(), toPixels(FirstHeight));
+    frm_.Height = firstHeight();
+    resize(width(), toPixels(frm_.Height));
     frm_.hWnd = static_cast<qint64>(winId());
 
     bindings_.follow(frm_.Caption, [this] { setWindowTitle(frm_.Caption); });

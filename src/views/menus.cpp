@@ -126,8 +126,10 @@ void Menus::opens(QMenu *menu, controls::MenuItem &item)
         events_.run(item.Opening);
         return;
     }
-    if (passing_)
+    if (passing_) {
+        events_.run(item.Passed);
         return;
+    }
     if (qobject_cast<QMenu *>(menu->parentWidget())) {
         submenu_ = menu;
         submenuItem_ = &item;

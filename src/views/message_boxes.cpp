@@ -13,6 +13,8 @@
 #include <QLabel>
 #include <QMessageBox>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace views {
@@ -26,7 +28,9 @@ using platform::Icon;
 constexpr QChar ZeroWidthSpace(0x200B);
 /// Of an input box, in pixels.
 constexpr int PromptWidth = 400;
+/// In characters.
 constexpr int LongestWord = 30;
+constexpr int LongestPath = 500;
 
 QMessageBox::StandardButtons standardButtons(Buttons buttons)
 {
@@ -85,20 +89,38 @@ bool isPattern(const QString &fileName)
     return fileName.contains(u'*') || fileName.contains(u'?');
 }
 
-// Lets lines break in a path, which has no blanks: behind its backslashes, and within long names.
-QString breakable(const QString &text)
+// A long path has no blanks: lets its lines break behind backslashes and within long names, and leaves out
+// the middle of one that would outgrow the screen.
+QString breakable(QString word)
 {
+    if (word.size() <= LongestWord)
+        return word;
+    if (word.size() > LongestPath)
+        word = word.left(LongestPath / 2) + u'…' + word.right(LongestPath / 2);
     QString result;
     int whole = 0;
-    for (QChar c : text) {
+    for (QChar c : std::as_const(word)) {
         result += c;
-        whole = c == u' ' ? 0 : whole + 1;
+        ++whole;
         if (c != u'\\' && (whole < LongestWord || c.isHighSurrogate()))
             continue;
         result += ZeroWidthSpace;
         whole = 0;
     }
     return result;
+}
+
+// What a box says, as it is to be shown.
+QString shown(const QString &text)
+{
+    QStringList lines = platform::displayLines(text).split(u'\n');
+    for (QString &line : lines) {
+        QStringList words = line.split(u' ');
+        for (QString &word : words)
+            word = breakable(word);
+        line = words.join(u' ');
+    }
+    return lines.join(u'\n');
 }
 
 // The window that a box belongs to: the active one. While another program is active, or the active window has
@@ -122,7 +144,7 @@ Answer MessageBoxes::message(const platform::MessageBox &box)
     closeMenus();
     QMessageBox window(standardIcon(box.icon),
                        box.title.isEmpty() ? QString(QLatin1String(shell::ApplicationTitle)) : box.title,
-                       platform::displayLines(box.text), standardButtons(box.buttons), owner());
+                       shown(box.text), standardButtons(box.buttons), owner());
     window.setTextFormat(Qt::PlainText);
     if (box.noByDefault)
         window.setDefaultButton(QMessageBox::No);
@@ -134,7 +156,8 @@ std::optional<QString> MessageBoxes::input(const platform::InputBox &box)
     closeMenus();
     QInputDialog window(owner());
     window.setWindowTitle(box.title);
-    window.setLabelText(breakable(platform::displayLines(box.prompt)));
+    // Its "&" would be an access key.
+    window.setLabelText(shown(box.prompt).replace(u'&', u"&&"_s));
     // It would take a directory's name for mark-up, and grow with every path.
     auto *prompt = window.findChild<QLabel *>();
     prompt->setTextFormat(Qt::PlainText);

@@ -10,18 +10,23 @@ using namespace Qt::StringLiterals;
 
 namespace views {
 
+std::unique_ptr<QPrintDialog> makePrinterSetUp(QPrinter &printer, QWidget *owner)
+{
+    auto dialog = std::make_unique<QPrintDialog>(&printer, owner);
+    dialog->setWindowTitle(u"Print Setup"_s);
+    dialog->setOptions({});
+    // Nothing is printed here.
+    if (auto *buttons = dialog->findChild<QDialogButtonBox *>())
+        buttons->button(QDialogButtonBox::Ok)->setText(u"OK"_s);
+    return dialog;
+}
+
 bool showPrinterSetUp(QWidget *owner)
 {
     if (QPrinterInfo::availablePrinterNames().isEmpty())
         return false;
     QPrinter printer;
-    QPrintDialog dialog(&printer, owner);
-    dialog.setWindowTitle(u"Print Setup"_s);
-    dialog.setOptions({});
-    // Nothing is printed here.
-    if (auto *buttons = dialog.findChild<QDialogButtonBox *>())
-        buttons->button(QDialogButtonBox::Ok)->setText(u"OK"_s);
-    dialog.exec();
+    makePrinterSetUp(printer, owner)->exec();
     return true;
 }
 

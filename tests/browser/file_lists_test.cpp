@@ -143,7 +143,7 @@ TEST_F(FileLists, of_a_directory_that_is_gone_are_empty_and_the_status_bar_says_
     click(frm.cmdRefresh);
     EXPECT_EQ(frm.filDatafiles.ListCount(), 0);
     EXPECT_EQ(frm.filOutputs.ListCount(), 0);
-    EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"C:\\DATA cannot be read: Path not found."_s);
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"DATA cannot be read: path not found."_s);
     EXPECT_THAT(machine.dialogs.messages, IsEmpty());
     EXPECT_EQ(kinovra.CurrentTrial, u"RUN1"_s);
 }

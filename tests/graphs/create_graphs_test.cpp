@@ -430,7 +430,7 @@ TEST_F(GraphCreation, survives_a_data_directory_that_is_gone)
     EXPECT_THAT(machine.dialogs.messages, IsEmpty());
     EXPECT_EQ(machine.programs.started.size(), 1U);
     EXPECT_EQ(kinovra.Answer, 0);
-    EXPECT_EQ(said(), u"C:\\DATA cannot be read: Path not found. The binary file is Run1 now."_s);
+    EXPECT_EQ(said(), u"DATA cannot be read: path not found. The binary file is Run1 now."_s);
 }
 
 TEST_F(GraphCreation, of_another_trial_may_begin_during_the_pause)

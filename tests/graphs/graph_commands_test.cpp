@@ -160,7 +160,7 @@ TEST_F(GraphMenu, button_shows_the_graph_types_without_a_word)
     click(frm.cmdSelectGra);
     EXPECT_EQ(frm.filGraFiles.ListCount(), 0);
     EXPECT_TRUE(frm.filGraFiles.Visible);
-    EXPECT_EQ(said(), u"C:\\KINOVRA\\graphs cannot be read: Path not found."_s);
+    EXPECT_EQ(said(), u"graphs cannot be read: path not found."_s);
     EXPECT_THAT(machine.dialogs.messages, IsEmpty());
 }
 

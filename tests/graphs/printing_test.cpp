@@ -280,7 +280,7 @@ TEST_F(GraphPrinting, starts_nothing_in_a_data_directory_that_is_gone)
     print(0);
     EXPECT_EQ(messages(), QStringList(u"No graphs in this directory."_s));
     EXPECT_FALSE(frm.filPlots.Visible);
-    EXPECT_EQ(said(), u"C:\\DATA cannot be read: Path not found."_s);
+    EXPECT_EQ(said(), u"DATA cannot be read: path not found."_s);
     EXPECT_THAT(machine.programs.started, IsEmpty());
     EXPECT_EQ(frm.filPlots.ListCount(), 0);
     expectMarkedBut({});

@@ -1,6 +1,7 @@
 #include "launcher/companions.h"
 #include "panel_fixture.h"
 #include "printing.h"
+#include "shell/dispatch.h"
 
 #include <gmock/gmock.h>
 
@@ -112,6 +113,16 @@ TEST_F(Companions, say_in_the_status_bar_alone_that_they_did_not_start)
     EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"forces.exe was not started: it was not found."_s);
     EXPECT_EQ(kinovra.TaskId, 0);
     EXPECT_THAT(machine.dialogs.messages, IsEmpty());
+}
+
+TEST_F(Companions, are_not_started_when_the_window_is_closed_meanwhile)
+{
+    addData({"my walk.rf"});
+    click(frm.filDatafiles, u"my walk.dg"_s);
+    machine.dialogs.answers = {platform::Yes};
+    machine.dialogs.whileShown = [&](const MessageBox &) { panel.unloading = true; };
+    click(frm.cmdOndex);
+    EXPECT_THAT(machine.programs.started, IsEmpty());
 }
 
 class ForcePlateMenu : public support::PanelFixture
@@ -352,4 +363,16 @@ TEST_F(AnimateMenu, asks_for_a_trial_first_and_stays_closed)
     expectMarkedBut({});
     chooseTrial();
     EXPECT_FALSE(frm.mnuImages.AsksOnOpening());
+}
+
+TEST_F(AnimateMenu, offers_nothing_to_a_user_who_passes_along_without_a_trial)
+{
+    mark();
+    shell::dispatch(panel, frm.mnuImages.Passed);
+    EXPECT_EQ(enabledOf(frm.mnuSkelvo), u"xxxx"_s);
+    EXPECT_THAT(machine.dialogs.messages, IsEmpty());
+    expectMarkedBut({});
+    chooseTrial();
+    openMenu(frm.mnuImages);
+    EXPECT_EQ(enabledOf(frm.mnuSkelvo), u"0xxx"_s);
 }

@@ -183,14 +183,16 @@ TEST_F(DirectoryCommands, make_it_in_a_root)
 
 TEST_F(DirectoryCommands, say_what_is_wrong_with_a_name)
 {
-    machine.dialogs.typed = {u"EMPTY"_s, u"walk1.dg"_s, u"no\\such"_s, u"two:colons"_s, u"q:\\x"_s};
-    for (int i = 0; i < 5; ++i)
+    machine.dialogs.typed = {u"EMPTY"_s,      u"walk1.dg"_s, u"no\\such"_s,
+                             u"two:colons"_s, u"q:\\x"_s,    u"\\\\server\\share\\x"_s};
+    for (int i = 0; i < 6; ++i)
         click(frm.mnuOpen[1]);
     const MessageBox taken{u"There is something of this name already"_s, Icon::Exclamation};
     EXPECT_THAT(machine.dialogs.messages,
                 ElementsAre(taken, taken, MessageBox{u"Path not found"_s, Icon::Exclamation},
                             MessageBox{u"Bad file name or number"_s, Icon::Exclamation},
-                            MessageBox{u"Device unavailable"_s, Icon::Exclamation}));
+                            MessageBox{u"Device unavailable"_s, Icon::Exclamation},
+                            MessageBox{u"Path not found"_s, Icon::Exclamation}));
     EXPECT_EQ(folders(), (QStringList{u"Empty"_s, u"full"_s}));
     EXPECT_EQ(kinovra.DataDir, u"C:\\DATA"_s);
 }
@@ -256,7 +258,7 @@ TEST_F(DirectoryCommands, leave_what_is_not_empty)
     remove(platform::Yes);
     EXPECT_THAT(machine.dialogs.messages,
                 ElementsAre(question(u"c:\\data\\full"_s), notEmpty(u"c:\\data\\full"_s)));
-    EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"C:\\DATA\\full was not removed: it is not empty."_s);
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"full was not removed: it is not empty."_s);
     EXPECT_TRUE(machine.files.content(u"C:\\DATA\\full\\walk1.dg"_s));
     EXPECT_EQ(kinovra.DataDir, u"C:\\DATA\\full"_s);
     EXPECT_EQ(frm.dirSelect.Path(), u"C:\\DATA\\full"_s);
@@ -290,23 +292,22 @@ TEST_F(DirectoryCommands, give_the_true_reason_in_the_status_bar)
     machine.files.makeLink(u"C:\\DATA\\link"_s);
     click(frm.cmdRefresh);
     goTo(u"C:\\DATA\\link"_s);
-    EXPECT_EQ(refused(u"c:\\data\\link"_s),
-              u"C:\\DATA\\link was not removed: it is not a directory of its own."_s);
+    EXPECT_EQ(refused(u"c:\\data\\link"_s), u"link was not removed: it is not a directory of its own."_s);
     EXPECT_TRUE(isThere(u"C:\\DATA\\link"_s));
 
     goTo(u"C:\\DATA"_s);
     goTo(u"C:\\DATA\\Empty"_s);
     machine.files.forbid(u"C:\\DATA\\Empty"_s, ErrorNumber::PermissionDenied);
-    EXPECT_EQ(refused(u"c:\\data\\empty"_s), u"C:\\DATA\\Empty was not removed: permission denied."_s);
+    EXPECT_EQ(refused(u"c:\\data\\empty"_s), u"Empty was not removed: permission denied."_s);
     machine.files.remove(u"C:\\DATA\\Empty"_s);
-    EXPECT_EQ(refused(u"c:\\data\\empty"_s), u"C:\\DATA\\Empty was not removed: path not found."_s);
+    EXPECT_EQ(refused(u"c:\\data\\empty"_s), u"Empty was not removed: path not found."_s);
     // Another one has come in its place: letter case tells them apart here.
     machine.files.addDirectory(u"C:\\DATA\\EMPTY"_s);
-    EXPECT_EQ(refused(u"c:\\data\\empty"_s), u"C:\\DATA\\Empty was not removed: path not found."_s);
+    EXPECT_EQ(refused(u"c:\\data\\empty"_s), u"Empty was not removed: path not found."_s);
     EXPECT_TRUE(isThere(u"C:\\DATA\\EMPTY"_s));
     // The directory above has gone with it.
     machine.files.remove(u"C:\\DATA"_s);
-    EXPECT_EQ(refused(u"c:\\data\\empty"_s), u"C:\\DATA\\Empty was not removed: path not found."_s);
+    EXPECT_EQ(refused(u"c:\\data\\empty"_s), u"Empty was not removed: path not found."_s);
     EXPECT_EQ(kinovra.DataDir, u"C:\\DATA\\Empty"_s);
 }
 
@@ -342,6 +343,23 @@ TEST_F(DirectoryCommands, go_to_the_one_above_even_where_it_cannot_be_read)
                             u"There was a problem finding a path.  Error was Permission denied"_s));
     EXPECT_FALSE(isThere(u"C:\\DATA\\Empty"_s));
     EXPECT_EQ(kinovra.DataDir, u"C:\\DATA"_s);
+}
+
+TEST_F(DirectoryCommands, keep_no_backslash_of_a_root_that_cannot_be_read)
+{
+    machine.files.addDirectory(u"C:\\Alone"_s);
+    click(frm.cmdRefresh);
+    goTo(u"C:\\"_s);
+    goTo(u"C:\\Alone"_s);
+    bool isRemoved = false;
+    machine.files.beforeCall = [&](const QString &call) {
+        if (call == u"directory" && isRemoved)
+            throw RuntimeError(ErrorNumber::PermissionDenied);
+        isRemoved = isRemoved || call == u"removeDirectory";
+    };
+    remove(platform::Yes);
+    EXPECT_EQ(kinovra.DataDir, u"C:"_s);
+    EXPECT_EQ(machine.files.currentDirectory(), u"C:\\"_s);
 }
 
 TEST_F(DirectoryCommands, explore_the_data_directory)

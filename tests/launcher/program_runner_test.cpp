@@ -377,7 +377,7 @@ TEST_F(RunProgramTest, keeps_to_the_lists_that_show_files_when_the_directory_van
     machine.clock.duringPause(0.5, [&] { machine.files.remove(u"C:\\DATA"_s); });
     machine.dialogs.answers = {platform::No};
     EXPECT_EQ(run(), 0);
-    EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"C:\\DATA cannot be read: Path not found."_s);
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"DATA cannot be read: path not found."_s);
     EXPECT_THAT(machine.dialogs.messages, ElementsAre(offer));
 }
 

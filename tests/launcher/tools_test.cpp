@@ -290,6 +290,23 @@ TEST_F(ProgHelp, starts_the_chosen_program_with_its_help_switches)
     EXPECT_THAT(machine.dialogs.messages, IsEmpty());
 }
 
+TEST_F(ProgHelp, shows_the_dialog_in_the_program_directory)
+{
+    QString directoryOfDialog;
+    machine.dialogs.whileChoosing = [&] { directoryOfDialog = frm.dlgOpen.InitDir; };
+    click(frm.mnuProgHelp);
+    EXPECT_EQ(directoryOfDialog, u"C:\\KINOVRA"_s);
+}
+
+TEST_F(ProgHelp, starts_nothing_when_the_window_is_closed_meanwhile)
+{
+    machine.dialogs.chosenFiles = {u"C:\\KINOVRA\\noise.exe"_s};
+    machine.dialogs.whileChoosing = [&] { panel.unloading = true; };
+    click(frm.mnuProgHelp);
+    EXPECT_THAT(machine.programs.started, IsEmpty());
+    EXPECT_THAT(machine.dialogs.messages, IsEmpty());
+}
+
 TEST_F(ProgHelp, cancelled_starts_nothing)
 {
     kinovra.ProgName = u"before"_s;

@@ -164,14 +164,15 @@ TEST(TerminalForm, begins_maximized_where_the_terminal_can)
     EXPECT_EQ(maximizedWindow(u"/usr/bin/foot"_s), QStringList{u"--maximized"_s});
     EXPECT_EQ(maximizedWindow(u"/usr/bin/alacritty"_s),
               (QStringList{u"-o"_s, u"window.startup_mode=\"Maximized\""_s}));
-    EXPECT_EQ(maximizedWindow(u"/usr/bin/xterm"_s), QStringList{u"-maximized"_s});
+    for (const QString &terminal : {u"xterm"_s, u"uxterm"_s, u"lxterm"_s})
+        EXPECT_EQ(maximizedWindow(u"/usr/bin/"_s + terminal), QStringList{u"-maximized"_s});
 }
 
 TEST(TerminalForm, leaves_the_window_to_a_terminal_that_might_refuse_the_option)
 {
     for (const QString &terminal :
          {u"xdg-terminal-exec"_s, u"x-terminal-emulator"_s, u"konsole"_s, u"kgx"_s, u"qterminal"_s,
-          u"ptyxis"_s, u"wezterm"_s, u"st"_s, u"uxterm"_s, u"gnome-terminal.wrapper"_s,
-          u"xfce4-terminal.wrapper"_s, u"Xterm"_s, u"xterm/"_s, u"foot/st"_s, QString()})
+          u"ptyxis"_s, u"wezterm"_s, u"st"_s, u"gnome-terminal.wrapper"_s, u"xfce4-terminal.wrapper"_s,
+          u"Xterm"_s, u"xterm/"_s, u"foot/st"_s, QString()})
         EXPECT_EQ(maximizedWindow(u"/usr/bin/"_s + terminal), QStringList()) << terminal.toStdString();
 }

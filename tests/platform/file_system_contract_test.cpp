@@ -600,7 +600,7 @@ TEST_P(FileSystemContract, says_why_a_directory_cannot_be_made)
     EXPECT_EQ(make(u"Q:\\new"_s), 68);
     EXPECT_EQ(make(u"Q:"_s), 68);
     for (const QString &name :
-         {u"a:b"_s, u"C:\\new"_s, u"a/b"_s, u"/new"_s, u"new/"_s, u"../new"_s, u"new"_s + QChar(u'\0')})
+         {u"a:b\\new"_s, u"C:\\new"_s, u"a/b"_s, u"/new"_s, u"new/"_s, u"../new"_s, u"new"_s + QChar(u'\0')})
         EXPECT_EQ(make(at(name)), 52) << name.toStdString();
     EXPECT_EQ(folders(), QStringList());
     EXPECT_EQ(world->content(u"file"_s), "x");

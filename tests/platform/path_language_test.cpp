@@ -106,4 +106,7 @@ TEST(PathParts, joins_and_takes_apart)
     EXPECT_EQ(parentOf(u"C:\\"_s), u"C:\\"_s);
     EXPECT_EQ(nameOf(u"C:\\d\\a.dg"_s), u"a.dg"_s);
     EXPECT_EQ(nameOf(u"C:\\"_s), QString());
+    EXPECT_EQ(platform::shortFormOf(u"C:\\a\\b c"_s), u"b c"_s);
+    EXPECT_EQ(platform::shortFormOf(u"C:\\"_s), u"C:"_s);
+    EXPECT_EQ(platform::shortFormOf(u"c: [data]"_s), u"c: [data]"_s);
 }

@@ -100,6 +100,16 @@ protected:
             break;
         }
         lastAnswer = machine.dialogs.answers.front();
+        closeMeanwhile();
+    }
+
+    // Whatever waits for the box does nothing more.
+    void closeMeanwhile()
+    {
+        if (!oneIn(200))
+            return;
+        shell::dispatch(panel, frm.Unload);
+        startedWhenClosed = machine.programs.started.size();
     }
 
     void collectEvents()
@@ -118,6 +128,8 @@ protected:
                 events.emplace_back([this, &item] { click(item); });
             if (item.Opening)
                 events.emplace_back([this, &item] { openMenu(item); });
+            if (item.Passed)
+                events.emplace_back([this, &item] { shell::dispatch(panel, item.Passed); });
         }
         collectEventsOfOtherWindows();
         events.emplace_back([this] { chooseDrive(); });
@@ -391,11 +403,16 @@ protected:
         }
     }
 
-    // Only an update ends the program here.
+    // An update ends the program, or the window was closed while a box was shown.
     void startAgain()
     {
         ASSERT_FALSE(messages().isEmpty());
-        EXPECT_TRUE(messages().join(u' ').contains(u"To use the new version you must exit and reload "));
+        if (startedWhenClosed) {
+            EXPECT_EQ(machine.programs.started.size(), *startedWhenClosed);
+        } else {
+            EXPECT_TRUE(messages().join(u' ').contains(u"To use the new version you must exit and reload "));
+        }
+        startedWhenClosed.reset();
         panel.unloading = false;
         machine.environment.ended = false;
         ++endings;
@@ -434,6 +451,7 @@ protected:
     platform::Answer lastAnswer = platform::OK;
     const int aboutHeight = about.Height;
     int endings = 0;
+    std::optional<size_t> startedWhenClosed; ///< what was started before the window was closed
     int refusalsChecked = 0;
     QSet<QString> checked; ///< the refusals that have come up
 };

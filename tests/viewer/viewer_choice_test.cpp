@@ -122,7 +122,7 @@ TEST_F(TextViewerMenu, takes_a_failing_dialog_for_a_cancelled_one)
     EXPECT_EQ(kinovra.TextViewer, u"C:\\KINOVRA\\notepad.exe"_s);
     EXPECT_EQ(checked(), u"--x"_s);
     EXPECT_THAT(machine.dialogs.messages, IsEmpty());
-    EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"No text viewer was chosen: Device unavailable."_s);
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"No text viewer was chosen: device unavailable."_s);
 }
 
 TEST_F(TextViewerMenu, of_another_index_only_tests_the_viewer)

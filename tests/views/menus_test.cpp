@@ -173,6 +173,16 @@ TEST_F(MenuViews, stay_closed_where_there_is_nothing_to_be_chosen_without_a_tria
     EXPECT_EQ(messages().size(), 1);
 }
 
+TEST_F(MenuViews, offer_nothing_without_a_trial_to_a_user_who_passes_along)
+{
+    openFromBar(u"&Graph"_s);
+    QTest::keyClick(menu(u"&Graph"_s), Qt::Key_Left);
+    settle();
+    ASSERT_TRUE(menu(u"&Animate"_s)->isVisible());
+    EXPECT_FALSE(action(menu(u"&Animate"_s), u"&Digitized data (.DG)"_s)->isEnabled());
+    EXPECT_TRUE(messages().isEmpty());
+}
+
 TEST_F(MenuViews, grey_out_the_force_commands_in_their_submenu)
 {
     click(frm.filDatafiles, u"walk1.dg"_s);

@@ -2,15 +2,19 @@
 #include "scratch_directory.h"
 #include "view_fixture.h"
 #include "views/message_boxes.h"
+#include "views/printer_set_up.h"
 
 #include <QApplication>
 #include <QColorDialog>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
@@ -156,13 +160,54 @@ TEST_F(MessageBoxViews, show_the_prompt_of_a_text_as_it_stands_in_a_box_that_fit
     whenShown<QInputDialog>([&directory](QInputDialog &dialog) {
         const auto *prompt = dialog.findChild<QLabel *>();
         EXPECT_EQ(prompt->textFormat(), Qt::PlainText);
-        EXPECT_EQ(prompt->text().remove(QChar(0x200B)), u"Enter a name for "_s + directory);
+        EXPECT_TRUE(QKeySequence::mnemonic(prompt->text()).isEmpty());
+        EXPECT_EQ(prompt->text().remove(QChar(0x200B)),
+                  u"Enter a name for "_s + QString(directory).replace(u'&', u"&&"_s));
         EXPECT_LE(dialog.width(), 600);
         EXPECT_LE(prompt->sizeHint().width(), dialog.width());
         EXPECT_LE(prompt->heightForWidth(prompt->width()), prompt->height());
         dialog.reject();
     });
     boxes.input({u"Enter a name for "_s + directory});
+}
+
+TEST_F(MessageBoxViews, break_and_shorten_long_paths)
+{
+    const QString path = u"c:\\"_s + QString(8, u'a') + u'\\' + QString(130, u'b');
+    whenShown<QMessageBox>([&path](QMessageBox &box) {
+        const auto *label = box.findChild<QLabel *>(u"qt_msgbox_label"_s);
+        ASSERT_NE(label, nullptr);
+        EXPECT_EQ(box.text().remove(QChar(0x200B)), u"Remove "_s + path + u"?"_s);
+        EXPECT_LE(label->sizeHint().width(), label->width());
+        EXPECT_LE(label->heightForWidth(label->width()), label->height());
+        EXPECT_LE(box.width(), 800);
+        box.accept();
+    });
+    boxes.message({u"Remove "_s + path + u"?"_s});
+    whenShown<QInputDialog>([](QInputDialog &dialog) {
+        EXPECT_LE(dialog.height(), 400);
+        EXPECT_TRUE(
+            dialog.findChild<QLabel *>()->text().remove(QChar(0x200B)).endsWith(u"zzz\\end or Cancel"_s));
+        dialog.reject();
+    });
+    boxes.input({u"Name in "_s + QString(3000, u'z') + u"\\end or Cancel"_s});
+    // What is short enough to be copied stays as it is.
+    whenShown<QMessageBox>([](QMessageBox &box) {
+        EXPECT_EQ(box.text(), u"C:\\DATA\\WALK1.DG is there"_s);
+        box.accept();
+    });
+    boxes.message({u"C:\\DATA\\WALK1.DG is there"_s});
+}
+
+TEST_F(MessageBoxViews, set_a_printer_up)
+{
+    QPrinter printer;
+    const auto dialog = views::makePrinterSetUp(printer, nullptr);
+    EXPECT_EQ(dialog->windowTitle(), u"Print Setup"_s);
+    EXPECT_EQ(dialog->options(), QAbstractPrintDialog::PrintDialogOptions());
+    const auto *buttons = dialog->findChild<QDialogButtonBox *>();
+    ASSERT_NE(buttons, nullptr);
+    EXPECT_EQ(buttons->button(QDialogButtonBox::Ok)->text(), u"OK"_s);
 }
 
 TEST_F(MessageBoxViews, say_that_there_is_no_printer_to_set_up)

@@ -170,11 +170,16 @@ QByteArray findInPath(const QByteArray &name)
     return {};
 }
 
-QByteArray withoutLinks(const QByteArray &program)
+QByteArray terminalItself(const QByteArray &program)
 {
-    const std::unique_ptr<char, decltype(&std::free)> path(::realpath(program.constData(), nullptr),
-                                                           &std::free);
-    return path ? QByteArray(path.get()) : program;
+    const std::unique_ptr<char, decltype(&std::free)> resolved(::realpath(program.constData(), nullptr),
+                                                               &std::free);
+    const QByteArray path(resolved ? resolved.get() : program.constData());
+    if (!path.endsWith(".wrapper"))
+        return path;
+    const QByteArray wrapped = path.left(path.lastIndexOf('.'));
+    const QByteArray installed = findInPath(wrapped.mid(wrapped.lastIndexOf('/') + 1));
+    return installed.isEmpty() ? path : installed;
 }
 
 bool isAccessory(const QString &name)

@@ -19,8 +19,9 @@ struct DesktopProgram
 /// of the PATH are passed over: nothing is started from the directory that happens to be current.
 QByteArray findInPath(const QByteArray &name);
 
-/// What the path of an installed program leads to, as names such as x-terminal-emulator are links.
-QByteArray withoutLinks(const QByteArray &program);
+/// The terminal itself behind a path, as names such as x-terminal-emulator are links, often to a wrapper
+/// (such as gnome-terminal.wrapper) that does not take the terminal's own options.
+QByteArray terminalItself(const QByteArray &program);
 
 /// Whether `name` (any case) names one of the accessories that the package starts by a bare name:
 /// "notepad.exe", "calc.exe", "command.com", "explorer.exe", "mplayer.exe", "msinfo32.exe", "winhlp32.exe".

@@ -77,6 +77,17 @@ void requireTrueSpelling(const QString &absolutePath)
     }
 }
 
+// A quote, or a colon behind the last backslash, that was typed means itself; within names the path language
+// has other characters for them.
+QString spelledAsTyped(const QString &path)
+{
+    const qsizetype name = path.lastIndexOf(u'\\') + 1;
+    QString last = path.mid(name);
+    if (name > 0)
+        last.replace(u':', fromHostName(":"));
+    return QString(path.left(name) + last).replace(u'"', fromHostName("\""));
+}
+
 // Whether a directory holds anything of this name, in any case, a link that leads nowhere included.
 bool isTaken(const QByteArray &directory, const QString &path, const QString &name)
 {
@@ -271,15 +282,15 @@ void LinuxFileSystem::copyFile(const QString &source, const QString &destination
 void LinuxFileSystem::makeDirectory(const QString &path)
 {
     lookup_.nextMoment();
-    // A quote that was typed is one; within names the path language has another character for it.
-    const QString absolute = current_.absolute(path).replace(u'"', fromHostName("\""));
+    const QString spelled = spelledAsTyped(path);
+    const QString absolute = current_.absolute(spelled);
     requireTrueSpelling(absolute);
     const QString above = parentOf(absolute);
     const QString name = nameOf(absolute);
     const auto parent = lookup_.find(above);
     if (!parent)
         throw RuntimeError(ErrorNumber::PathNotFound);
-    if (!endsWithName(path) || isTaken(*parent, above, name))
+    if (!endsWithName(spelled) || isTaken(*parent, above, name))
         raiseTaken();
     if (::mkdir(below(*parent, name).constData(), 0777) != 0) {
         if (errno == EEXIST)

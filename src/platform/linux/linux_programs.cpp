@@ -229,10 +229,16 @@ LinuxPrograms::Command LinuxPrograms::accessoryCommand(const Start &start)
     const auto program = desktopProgram(start.file);
     if (!program)
         return {.failure = notInstalled(start.file)};
-    // Only terminals are known by what lets them begin so.
-    const QStringList options =
-        start.show == Show::Maximized ? maximizedWindow(decoded(withoutLinks(program->path))) : QStringList();
-    return {.arguments = QList<QByteArray>{program->path} + encoded(options + documentArguments(start)),
+    QByteArray path = program->path;
+    QStringList options;
+    if (start.show == Show::Maximized) {
+        // Only terminals are known by what lets them begin so.
+        const QByteArray terminal = terminalItself(path);
+        options = maximizedWindow(decoded(terminal));
+        if (!options.isEmpty())
+            path = terminal;
+    }
+    return {.arguments = QList<QByteArray>{path} + encoded(options + documentArguments(start)),
             .inTerminal = program->inTerminal};
 }
 

@@ -306,16 +306,17 @@ TEST_F(DesktopTerminal, is_known_behind_the_links_to_it)
     scratch.makeDirectory("opt");
     scratch.makeDirectory("alternatives");
     for (const auto &[terminal, options] :
-         std::initializer_list<std::pair<QByteArray, QList<QByteArray>>>{{"xterm", {"-maximized"}},
+         std::initializer_list<std::pair<QByteArray, QList<QByteArray>>>{{"lxterm", {"-maximized"}},
                                                                          {"gnome-terminal", {"--maximize"}},
                                                                          {"gnome-terminal.wrapper", {}},
-                                                                         {"uxterm", {}},
                                                                          {"st", {}}}) {
         install("opt/" + terminal);
         scratch.makeLink("alternatives/x-terminal-emulator", scratch.path("opt/" + terminal));
         scratch.makeLink("bin/x-terminal-emulator", "../alternatives/x-terminal-emulator");
         const QList<QByteArray> normal{scratch.path("data"), scratch.path("bin/x-terminal-emulator")};
-        EXPECT_EQ(maximized(), normal + options) << terminal.toStdString();
+        const QByteArray started =
+            options.isEmpty() ? normal[1] : QByteArray(scratch.path("opt/" + terminal));
+        EXPECT_EQ(maximized(), (QList<QByteArray>{normal[0], started} + options)) << terminal.toStdString();
         EXPECT_EQ(run(accessory(u"command.com"_s)), normal) << terminal.toStdString();
         scratch.remove("alternatives/x-terminal-emulator");
         scratch.remove("bin/x-terminal-emulator");
@@ -323,6 +324,20 @@ TEST_F(DesktopTerminal, is_known_behind_the_links_to_it)
     // A name says nothing about what it leads to.
     scratch.makeLink("bin/xterm", "../opt/st");
     EXPECT_EQ(maximized(), (QList<QByteArray>{scratch.path("data"), scratch.path("bin/xterm")}));
+}
+
+TEST_F(DesktopTerminal, takes_its_own_option_where_a_wrapper_would_not)
+{
+    scratch.makeDirectory("opt");
+    install("opt/xfce4-terminal.wrapper");
+    scratch.makeLink("bin/x-terminal-emulator", "../opt/xfce4-terminal.wrapper");
+    EXPECT_EQ(maximized(),
+              (QList<QByteArray>{scratch.path("data"), scratch.path("bin/x-terminal-emulator")}));
+    install("bin/xfce4-terminal");
+    EXPECT_EQ(maximized(),
+              (QList<QByteArray>{scratch.path("data"), scratch.path("bin/xfce4-terminal"), "--maximize"}));
+    EXPECT_EQ(run(accessory(u"command.com"_s)),
+              (QList<QByteArray>{scratch.path("data"), scratch.path("bin/x-terminal-emulator")}));
 }
 
 TEST_F(DesktopTerminal, is_maximized_for_nothing_but_the_command_prompt)

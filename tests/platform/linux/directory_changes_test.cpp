@@ -276,6 +276,16 @@ TEST_F(DirectoryChanges, have_the_names_that_the_panel_shows)
     }
 }
 
+TEST_F(DirectoryChanges, take_what_was_typed_as_it_was_meant)
+{
+    for (const QString &name : {u"10:30"_s, u"say \"hi\""_s, u" my: \"walk\" "_s}) {
+        EXPECT_EQ(make(at(name)), QString()) << name.toStdString();
+        EXPECT_THAT(scratch.names(), ElementsAre(name.toUtf8()));
+        EXPECT_EQ(make(at(name)), taken);
+        scratch.remove(name.toUtf8());
+    }
+}
+
 TEST_F(DirectoryChanges, refuse_names_that_the_panel_would_show_in_another_way)
 {
     scratch.makeDirectory("say \"hi\"");
