@@ -162,7 +162,7 @@ TEST_F(DirectoryCommands, make_it_below_the_data_directory_whatever_is_current)
     for (int i = 0; i < 5; ++i)
         click(frm.mnuOpen[1]);
     for (const char *path :
-         {"C:\\DATA\\full\\one", "C:\\DATA\\two", "C:\\three", "C:\\ELSEWHERE\\four", "D:\\five"})
+         {R"(C:\DATA\full\one)", R"(C:\DATA\two)", "C:\\three", R"(C:\ELSEWHERE\four)", "D:\\five"})
         EXPECT_TRUE(isThere(QLatin1String(path))) << path;
     EXPECT_EQ(folders(), QStringList(u"one"_s));
     EXPECT_EQ(machine.files.currentDirectory(), u"D:\\"_s);

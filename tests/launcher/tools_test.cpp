@@ -31,8 +31,9 @@ protected:
 
 TEST_F(Accessories, start_by_name_alone_and_the_prompt_maximized)
 {
-    const Start table[]{accessory("calc.exe", Show::Normal), accessory("command.com", Show::Maximized),
-                        accessory("explorer.exe", Show::Normal), accessory("notepad.exe", Show::Normal)};
+    const std::vector<Start> table{
+        accessory("calc.exe", Show::Normal), accessory("command.com", Show::Maximized),
+        accessory("explorer.exe", Show::Normal), accessory("notepad.exe", Show::Normal)};
     for (size_t i = 0; i < 4; ++i) {
         mark();
         forget();

@@ -174,7 +174,7 @@ QByteArray terminalItself(const QByteArray &program)
 {
     const std::unique_ptr<char, decltype(&std::free)> resolved(::realpath(program.constData(), nullptr),
                                                                &std::free);
-    const QByteArray path(resolved ? resolved.get() : program.constData());
+    QByteArray path(resolved ? resolved.get() : program.constData());
     if (!path.endsWith(".wrapper"))
         return path;
     const QByteArray wrapped = path.left(path.lastIndexOf('.'));
