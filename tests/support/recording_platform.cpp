@@ -146,7 +146,7 @@ std::optional<QString> RecordingDialogs::input(const platform::InputBox &box)
         whileChoosing();
     if (typed.empty())
         return std::nullopt;
-    const auto text = typed.front();
+    auto text = typed.front();
     typed.pop_front();
     return text;
 }
