@@ -94,4 +94,9 @@ QByteArray toHostName(QStringView name)
     return result + name.mid(done).toUtf8();
 }
 
+QByteArray hostPathBelow(const QByteArray &hostDirectory, const QString &name)
+{
+    return (hostDirectory == "/" ? QByteArray() : hostDirectory) + '/' + toHostName(name);
+}
+
 } // namespace platform::host

@@ -16,4 +16,8 @@ bool isPlain(QByteArrayView name);
 /// The file system's bytes of a name, or of any text with such names in it.
 QByteArray toHostName(QStringView name);
 
+/// The file system's path of what is called `name` in a directory of the host, whose root may be written as
+/// an empty path.
+QByteArray hostPathBelow(const QByteArray &hostDirectory, const QString &name);
+
 } // namespace platform::host

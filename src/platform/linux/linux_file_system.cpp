@@ -1,6 +1,7 @@
 #include "platform/linux/linux_file_system.h"
 
 #include "platform/letter_case.h"
+#include "platform/linux/directory_changes.h"
 #include "platform/linux/host_names.h"
 #include "platform/linux/regular_file.h"
 #include "platform/linux/system_error.h"
@@ -52,70 +53,6 @@ QByteArray behindLink(const QByteArray &hostPath)
     if (!path)
         throw RuntimeError(ErrorNumber::PathFileAccess);
     return path.get();
-}
-
-QByteArray below(const QByteArray &directory, const QString &name)
-{
-    return (directory == "/" ? QByteArray() : directory) + '/' + toHostName(name);
-}
-
-// A drive, "." and ".." mean another directory as soon as the current one does.
-bool endsWithName(const QString &path)
-{
-    const QStringList names = splitPath(path).Names;
-    return !names.isEmpty() && names.last() != u"." && names.last() != u"..";
-}
-
-// A name that its directory would show in another spelling (a quote stands for itself in no name) or that
-// leads elsewhere is not the name of what would be made or removed.
-void requireTrueSpelling(const QString &absolutePath)
-{
-    const QStringList names = splitPath(absolutePath).Names;
-    for (const QString &name : names) {
-        if (name.contains(u'/') || fromHostName(toHostName(name)) != name)
-            throw RuntimeError(ErrorNumber::BadFileName);
-    }
-}
-
-// A quote, or a colon behind the last backslash, that was typed means itself; within names the path language
-// has other characters for them.
-QString spelledAsTyped(const QString &path)
-{
-    const qsizetype name = path.lastIndexOf(u'\\') + 1;
-    QString last = path.mid(name);
-    if (name > 0)
-        last.replace(u':', fromHostName(":"));
-    return QString(path.left(name) + last).replace(u'"', fromHostName("\""));
-}
-
-// Whether a directory holds anything of this name, in any case, a link that leads nowhere included.
-bool isTaken(const QByteArray &directory, const QString &path, const QString &name)
-{
-    try {
-        return !readDirectory(directory, path).directory->find(name).isNull();
-    } catch (const RuntimeError &error) {
-        // It cannot be listed; the system still knows whether the exact name is taken.
-        if (error.Number != static_cast<qint16>(ErrorNumber::PermissionDenied))
-            throw;
-        return false;
-    }
-}
-
-[[noreturn]] void raiseTaken()
-{
-    throw RuntimeError(ErrorNumber::PathFileAccess, u"There is something of this name already"_s);
-}
-
-// Whether a directory is the root of a drive, by whatever path it was reached.
-bool isRoot(const DriveMap &drives, const struct stat &directory)
-{
-    for (char16_t letter = u'A'; letter <= u'Z'; ++letter) {
-        struct stat root = {};
-        if (drives.contains(letter) && ::stat(drives.toHost(rootOf(letter)).constData(), &root) == 0
-            && root.st_dev == directory.st_dev && root.st_ino == directory.st_ino)
-            return true;
-    }
-    return false;
 }
 
 class RegularFile : public OpenedFile
@@ -282,24 +219,7 @@ void LinuxFileSystem::copyFile(const QString &source, const QString &destination
 void LinuxFileSystem::makeDirectory(const QString &path)
 {
     lookup_.nextMoment();
-    const QString spelled = spelledAsTyped(path);
-    const QString absolute = current_.absolute(spelled);
-    requireTrueSpelling(absolute);
-    const QString above = parentOf(absolute);
-    const QString name = nameOf(absolute);
-    const auto parent = lookup_.find(above);
-    if (!parent)
-        throw RuntimeError(ErrorNumber::PathNotFound);
-    if (!endsWithName(spelled) || isTaken(*parent, above, name))
-        raiseTaken();
-    if (::mkdir(below(*parent, name).constData(), 0777) != 0) {
-        if (errno == EEXIST)
-            raiseTaken();
-        // FAT and its like refuse a name in this way.
-        if (errno == EINVAL)
-            throw RuntimeError(ErrorNumber::BadFileName);
-        raise(errno);
-    }
+    makeHostDirectory(lookup_, current_, path);
     // On the way to a directory through a link that directory itself may have been read.
     lookup_.nextMoment();
 }
@@ -307,32 +227,7 @@ void LinuxFileSystem::makeDirectory(const QString &path)
 void LinuxFileSystem::removeDirectory(const QString &path)
 {
     lookup_.nextMoment();
-    const QString absolute = current_.absolute(path);
-    if (!drives_.contains(absolute.at(0)))
-        throw RuntimeError(ErrorNumber::DeviceUnavailable);
-    if (splitPath(path).Names.isEmpty())
-        throw RuntimeError(ErrorNumber::PathFileAccess, u"A drive cannot be removed"_s);
-    if (!endsWithName(path))
-        throw RuntimeError(ErrorNumber::PathFileAccess, u"It must be called by its own name"_s);
-    requireTrueSpelling(absolute);
-    const QByteArray directory = drives_.toHost(absolute);
-    struct stat status = {};
-    if (::lstat(directory.constData(), &status) != 0)
-        raise(errno);
-    if (S_ISLNK(status.st_mode))
-        throw RuntimeError(ErrorNumber::PathFileAccess, u"It is a link to another directory"_s);
-    if (!S_ISDIR(status.st_mode))
-        throw RuntimeError(ErrorNumber::PathFileAccess, u"It is not a directory"_s);
-    if (isRoot(drives_, status))
-        throw RuntimeError(ErrorNumber::PathFileAccess, u"A drive cannot be removed"_s);
-    // Whatever has taken the name since, this follows no link and removes nothing but an empty directory.
-    if (::rmdir(directory.constData()) != 0) {
-        if (errno == ENOTEMPTY || errno == EEXIST)
-            throw RuntimeError(ErrorNumber::PathFileAccess, u"It is not empty"_s);
-        if (errno == EBUSY)
-            throw RuntimeError(ErrorNumber::PathFileAccess, u"The system uses it"_s);
-        raise(errno);
-    }
+    removeHostDirectory(drives_, current_, path);
 }
 
 QString LinuxFileSystem::hostForm(const QString &directory)
@@ -390,7 +285,7 @@ std::optional<QByteArray> LinuxFileSystem::hostDocument(const QString &path)
     const auto directory = lookup_.find(parentOf(absolute));
     if (!directory)
         return std::nullopt;
-    return below(*directory, nameOf(absolute));
+    return hostPathBelow(*directory, nameOf(absolute));
 }
 
 QByteArray LinuxFileSystem::openable(const QString &path)

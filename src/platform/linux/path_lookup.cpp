@@ -62,12 +62,6 @@ void requireDescriptors(const RuntimeError &error)
         throw error;
 }
 
-// The host's root may be written as an empty path, to which names are joined.
-QByteArray joined(const QByteArray &hostDirectory, const QString &name)
-{
-    return (hostDirectory == "/" ? QByteArray() : hostDirectory) + '/' + toHostName(name);
-}
-
 } // namespace
 
 std::optional<QByteArray> PathLookup::find(const QString &path)
@@ -105,7 +99,7 @@ PathLookup::File PathLookup::findFile(const QString &path)
     // A name directly in a root is looked for the long way.
     if (const auto reading = name > 3 ? usedDirectory(QStringView(path).left(name - 1)) : nullptr) {
         const QString spelled = reading->read.directory->find(QStringView(path).mid(name));
-        return {spelled.isNull() ? std::nullopt : std::optional(joined(reading->hostPath, spelled))};
+        return {spelled.isNull() ? std::nullopt : std::optional(hostPathBelow(reading->hostPath, spelled))};
     }
     const auto found = find(path);
     return {found, found || find(parentOf(path))};
@@ -235,7 +229,7 @@ QByteArray PathLookup::findBelow(QChar drive, QByteArray hostDirectory, const QS
         }
         if (spelled.isNull())
             return {};
-        hostDirectory = joined(hostDirectory, spelled);
+        hostDirectory = hostPathBelow(hostDirectory, spelled);
     }
     return hostDirectory.isEmpty() ? QByteArray("/") : hostDirectory;
 }
