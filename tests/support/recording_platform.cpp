@@ -146,7 +146,8 @@ std::optional<QString> RecordingDialogs::input(const platform::InputBox &box)
         whileChoosing();
     if (typed.empty())
         return std::nullopt;
-    auto text = typed.front();
+    std::optional<QString> text;
+    text.swap(typed.front());
     typed.pop_front();
     return text;
 }
