@@ -134,8 +134,7 @@ void mnuSkelvo_Click(Panel &panel, int index)
     kinovra.ProgName = u"Skelvo"_s;
     frm.ProgPath = packageProgram(panel, kinovra.ProgName);
     kinovra.SelectedFile = file.text();
-    frm.lblCommand.Caption = platform::LCase(frm.ProgPath + u' ' + kinovra.SelectedFile);
-    frm.lblCommand.Visible = true;
+    showCommand(panel, platform::LCase(frm.ProgPath + u' ' + kinovra.SelectedFile));
     kinovra.TaskId = startDirectly(panel, frm.ProgPath, u" "_s + file, Show::Shown);
 }
 

@@ -78,8 +78,7 @@ qint16 RunProgram(Panel &panel, const QString &prog, const CommandText &Comm, qi
     auto [kinovra, frm, platform] = panel.parts();
 
     Run run{kinovra.ProgName, kinovra.DataDir, kinovra.ListingSwitch, std::nullopt};
-    frm.lblCommand.Caption = LCase(prog + u' ' + Comm.text());
-    frm.lblCommand.Visible = true;
+    showCommand(panel, LCase(prog + u' ' + Comm.text()));
     if (browser::TestFile(panel, QString(), prog, browser::ShowMessage) != 0)
         return 1;
 

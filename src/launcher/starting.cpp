@@ -129,10 +129,15 @@ double startDirectly(Panel &panel, const QString &program, const CommandText &pa
                          .owner = 0});
 }
 
+void showCommand(Panel &panel, const QString &command)
+{
+    panel.frm.lblCommand.Caption = command;
+    panel.frm.lblCommand.Visible = true;
+}
+
 void showAndStart(Panel &panel, const QString &program, const CommandText &parameters)
 {
-    panel.frm.lblCommand.Caption = program + parameters.text();
-    panel.frm.lblCommand.Visible = true;
+    showCommand(panel, program + parameters.text());
     panel.kinovra.TaskId = startDirectly(panel, program, parameters, platform::Show::Shown);
 }
 

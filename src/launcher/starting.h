@@ -42,7 +42,10 @@ constexpr bool isStarted(double value)
 double startDirectly(Panel &panel, const QString &program, const CommandText &parameters,
                      platform::Show show);
 
-/// The same at the window's current size and position, after the whole command was shown in `lblCommand`; the
+/// Shows `command` as the command line.
+void showCommand(Panel &panel, const QString &command);
+
+/// Starts directly at the window's current size and position, after the whole command was shown; the
 /// task number stays in `TaskId`.
 void showAndStart(Panel &panel, const QString &program, const CommandText &parameters);
 

@@ -34,12 +34,6 @@ QString anyProgram()
     return u"*.exe"_s;
 }
 
-void showCommand(Panel &panel, const QString &command)
-{
-    panel.frm.lblCommand.Caption = command;
-    panel.frm.lblCommand.Visible = true;
-}
-
 platform::OpenFileRequest programRequest(const Panel &panel, const QString &title)
 {
     return {.initialDirectory = panel.kinovra.ProgDir,
