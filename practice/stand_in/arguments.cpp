@@ -60,11 +60,11 @@ std::size_t lastDot(std::string_view file)
 
 } // namespace
 
-Arguments readArguments(std::span<const char *const> given)
+Arguments readArguments(std::span<const std::string> given)
 {
     Arguments arguments;
-    for (const std::string_view argument : given) {
-        arguments.given.emplace_back(argument);
+    for (const std::string &argument : given) {
+        arguments.given.push_back(argument);
         if (isSwitch(argument))
             readSwitches(argument, arguments);
         else if (!argument.empty() && !isGraphType(argument))

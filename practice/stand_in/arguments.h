@@ -17,7 +17,7 @@ struct Arguments
 };
 
 /// Reads the arguments behind the program's own name.
-Arguments readArguments(std::span<const char *const> given);
+Arguments readArguments(std::span<const std::string> given);
 
 /// A file named on the command line, cut into its parts.
 struct NamedFile

@@ -2,9 +2,6 @@
 
 namespace practice {
 
-/// Whether somebody sits at the standard input.
-bool inputIsTerminal();
-
 /// Asks for Enter and waits for it, where somebody is there to press it.
 void pause();
 

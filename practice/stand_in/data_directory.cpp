@@ -1,8 +1,10 @@
 #include "stand_in/data_directory.h"
 
+#include "stand_in/host.h"
 #include "stand_in/unicode_text.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <system_error>
 #include <utility>
@@ -10,12 +12,6 @@
 namespace practice {
 
 namespace {
-
-std::string nameOf(const std::filesystem::path &path)
-{
-    const auto name = path.filename().u8string();
-    return {name.begin(), name.end()};
-}
 
 std::string_view withoutExtension(std::string_view name)
 {
@@ -66,11 +62,6 @@ std::optional<std::string> DataDirectory::readable(std::string_view name) const
             return spelling;
     }
     return std::nullopt;
-}
-
-std::filesystem::path pathOf(std::string_view name)
-{
-    return std::u8string(name.begin(), name.end());
 }
 
 } // namespace practice

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -29,8 +28,5 @@ private:
     };
     std::vector<Entry> entries_;
 };
-
-/// The path of the file `name` in the working directory.
-std::filesystem::path pathOf(std::string_view name);
 
 } // namespace practice

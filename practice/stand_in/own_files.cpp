@@ -1,10 +1,12 @@
 #include "stand_in/own_files.h"
 
+#include "stand_in/host.h"
 #include "stand_in/program_table.h"
 
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <filesystem>
 #include <fstream>
 #include <random>
 #include <sstream>
@@ -70,17 +72,17 @@ std::string firstLine(std::string_view title)
 std::optional<std::string> whyForeign(const std::string &name)
 {
     const fs::path path = pathOf(name);
+    if (isLink(path))
+        return "is a link";
     std::error_code error;
     const fs::file_status status = fs::symlink_status(path, error);
-    if (fs::is_symlink(status))
-        return "is a link";
     if (fs::is_directory(status))
         return "is a directory";
     if (!fs::is_regular_file(status))
         return "is not a plain file";
     if ((status.permissions() & fs::perms::owner_write) == fs::perms::none)
         return "is write-protected";
-    std::ifstream file(path);
+    std::ifstream file(path, std::ios::binary);
     if (!file.is_open())
         return "cannot be read";
     if (!isFirstLine(beginOf(file)))
@@ -97,16 +99,14 @@ OwnFile ownFile(const DataDirectory &directory, const std::string &name)
 bool leave(const OwnFile &file, std::string_view text)
 {
     const fs::path beside = placeBeside();
+    const fs::path place = pathOf(file.name);
     std::error_code error;
     bool done = write(beside, text);
     if (done && file.replaces) {
-        fs::rename(beside, pathOf(file.name), error);
+        fs::rename(beside, place, error);
         done = !error;
     } else if (done) {
-        // Unlike a renaming, a link leaves what appeared there in the meantime, and so does a copy where the
-        // disk knows no links.
-        fs::create_hard_link(beside, pathOf(file.name), error);
-        done = !error || fs::copy_file(beside, pathOf(file.name), fs::copy_options::none, error);
+        done = moveToFreePlace(beside, place);
     }
     fs::remove(beside, error);
     return done;

@@ -6,11 +6,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <set>
-
-#include <fcntl.h>
-#include <unistd.h>
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -60,12 +56,16 @@ TEST(CommandLine, listsEachArgumentExactlyAsItCame)
 {
     TrialDirectory directory;
     directory.write("walk1.dg", "");
-    EXPECT_EQ(
-        directory.run("refila.exe", {"", " two  blanks ", "-x/Y", "\xff\xfe", "\"q'", "%PATH%", "WALK1"})
-            .exitCode,
-        0);
-    EXPECT_EQ(directory.read("Refila.out"),
-              sentenceOf("Refila") + "\n\n two  blanks \n-x/Y\n\xff\xfe\n\"q'\n%PATH%\nWALK1\n");
+    std::vector<std::string> arguments{"",  " two  blanks ", "-x/Y",     "\"q'", "q\\\"", "end\\",
+                                       "*", "%PATH%",        "Größe ☂ 𝄞"};
+    if (AnyBytesAreNames)
+        arguments.emplace_back("\xff\xfe");
+    arguments.emplace_back("WALK1");
+    EXPECT_EQ(directory.run("refila.exe", arguments).exitCode, 0);
+    std::string listing = sentenceOf("Refila") + "\n";
+    for (const std::string &argument : arguments)
+        listing += argument + "\n";
+    EXPECT_EQ(directory.read("Refila.out"), listing);
 }
 
 TEST(CommandLine, pausesOnlyForSomebodyAtATerminal)
@@ -77,20 +77,18 @@ TEST(CommandLine, pausesOnlyForSomebodyAtATerminal)
 
     EXPECT_THAT(directory.run("kinemati.exe", {"/D", "WALK1"}).out, Not(HasSubstr("Press Enter")));
 
-    const int terminal = posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
-    ASSERT_GE(terminal, 0);
-    ASSERT_EQ(grantpt(terminal), 0);
-    ASSERT_EQ(unlockpt(terminal), 0);
-    const std::string seat = ptsname(terminal);
+    const Terminal terminal;
+    if (!terminal.isThere())
+        GTEST_SKIP() << "There is no terminal here.";
     const auto startAtTerminal = [&](std::vector<std::string> words) {
-        return Start{STAND_IN_PROGRAM, std::move(words), directory.path(), seat};
+        return Start{STAND_IN_PROGRAM, std::move(words), directory.path(), terminal.keyboard()};
     };
 
     StartedProgram waiting(startAtTerminal({"kinemati.exe", "/D", "WALK1"}));
     ASSERT_TRUE(waiting.says("Press Enter to go on."));
     EXPECT_TRUE(waiting.isRunning());
     EXPECT_TRUE(exists(directory.path("walk1.km")));
-    ASSERT_EQ(write(terminal, "\n", 1), 1);
+    terminal.pressEnter();
     EXPECT_EQ(waiting.end().exitCode, 0);
 
     const Ended notAsked = runToEnd(startAtTerminal({"kinemati.exe", "WALK1"}));
@@ -98,13 +96,11 @@ TEST(CommandLine, pausesOnlyForSomebodyAtATerminal)
     const Ended otherMeaning = runToEnd(startAtTerminal({"fpsig.exe", "/A/C/D/2", "WALK1.RF"}));
     EXPECT_EQ(otherMeaning.exitCode, 0);
     EXPECT_THAT(otherMeaning.out, Not(HasSubstr("Press Enter")));
-    close(terminal);
 }
 
 TEST(CommandLine, survivesEveryArgument)
 {
-    setenv("ASAN_OPTIONS", "exitcode=99", 1);
-    setenv("UBSAN_OPTIONS", "exitcode=99", 1);
+    tellSanitizersApart();
     const std::vector<std::vector<std::string>> odd{{},
                                                     {""},
                                                     {std::string(10000, 'x')},

@@ -1,10 +1,9 @@
 #pragma once
 
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <vector>
-
-#include <sys/types.h>
 
 namespace practice_tests {
 
@@ -12,12 +11,12 @@ namespace practice_tests {
 struct Start
 {
     std::filesystem::path program;
-    std::vector<std::string> words; ///< its whole argument list, its own name first
+    std::vector<std::string> words; ///< its whole argument list in UTF-8, its own name first
     std::filesystem::path directory;
-    std::filesystem::path input = "/dev/null";
+    std::filesystem::path input{}; ///< nothing comes in where it is empty
 };
 
-/// How a program ended and what it said.
+/// How a program ended and what it said, with "\n" at the ends of lines.
 struct Ended
 {
     int exitCode = -1; ///< 1000 + the signal where one ended it
@@ -44,11 +43,12 @@ public:
     Ended end();
 
 private:
-    bool readSome();
+    struct Process;
 
-    pid_t id_ = 0;
-    int out_ = -1;
-    int err_ = -1;
+    bool readSome();
+    int waitForExit();
+
+    std::unique_ptr<Process> process_;
     Ended ended_;
 };
 

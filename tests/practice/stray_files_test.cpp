@@ -5,6 +5,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <fstream>
+
 namespace fs = std::filesystem;
 
 using testing::ElementsAre;
@@ -14,6 +16,8 @@ using testing::UnorderedElementsAre;
 namespace practice_tests {
 
 namespace {
+
+constexpr const char *NoLinks = "This user can make no symbolic links here.";
 
 class StrayFile : public testing::Test
 {
@@ -59,15 +63,17 @@ TEST_F(StrayFile, isKeptWhereItIsALinkEvenToAnOwnFile)
 {
     const std::string text = sentenceOf("Refila") + "\nelsewhere\n";
     directory.write("../elsewhere.cn", text);
-    fs::create_symlink(directory.outside("elsewhere.cn"), directory.path("walk1.cn"));
+    if (!makeLink(directory.outside("elsewhere.cn"), directory.path("walk1.cn")))
+        GTEST_SKIP() << NoLinks;
     expectRefusal("walk1.cn is a link");
-    EXPECT_TRUE(fs::is_symlink(directory.path("walk1.cn")));
+    EXPECT_TRUE(isLink(directory.path("walk1.cn")));
     EXPECT_EQ(contentOf(directory.outside("elsewhere.cn")), text);
 }
 
 TEST_F(StrayFile, isKeptWhereItIsALinkToNothing)
 {
-    fs::create_symlink(directory.outside("elsewhere.cn"), directory.path("WALK1.CN"));
+    if (!makeLink(directory.outside("elsewhere.cn"), directory.path("WALK1.CN")))
+        GTEST_SKIP() << NoLinks;
     expectRefusal("WALK1.CN is a link");
     EXPECT_FALSE(fs::exists(directory.outside("elsewhere.cn")));
 }
@@ -75,7 +81,8 @@ TEST_F(StrayFile, isKeptWhereItIsALinkToNothing)
 TEST_F(StrayFile, isKeptWhereTheListingIsALink)
 {
     directory.write("../elsewhere.out", "mine\n");
-    fs::create_symlink(directory.outside("elsewhere.out"), directory.path("Refila.out"));
+    if (!makeLink(directory.outside("elsewhere.out"), directory.path("Refila.out")))
+        GTEST_SKIP() << NoLinks;
     expectRefusal("Refila.out is a link");
     EXPECT_EQ(contentOf(directory.outside("elsewhere.out")), "mine\n");
 }
@@ -91,10 +98,13 @@ TEST_F(StrayFile, isKeptWhereItIsWriteProtected)
     directory.write("walk1.cn", sentenceOf("Refila") + "\n");
     fs::permissions(directory.path("walk1.cn"), fs::perms::owner_read);
     expectRefusal("walk1.cn is write-protected");
+    fs::permissions(directory.path("walk1.cn"), fs::perms::owner_all);
 }
 
 TEST_F(StrayFile, isKeptInEverySpelling)
 {
+    if (!CaseTellsNamesApart)
+        GTEST_SKIP() << "There is but one spelling of a name here.";
     directory.write("walk1.cn", sentenceOf("Refila") + "\n");
     directory.write("Walk1.CN", "mine\n");
     expectRefusal("Walk1.CN was not made by a practice program");
@@ -127,7 +137,8 @@ TEST_F(StrayFile, isNoInputWhereItIsADirectory)
 TEST_F(StrayFile, mayBeALinkWhereItIsOnlyRead)
 {
     directory.write("../elsewhere.dg", "title\n");
-    fs::create_symlink(directory.outside("elsewhere.dg"), directory.path("jump1.dg"));
+    if (!makeLink(directory.outside("elsewhere.dg"), directory.path("jump1.dg")))
+        GTEST_SKIP() << NoLinks;
     EXPECT_EQ(directory.run("refila.exe", {"JUMP1.DG"}).exitCode, 0);
     EXPECT_THAT(directory.names(), UnorderedElementsAre("Refila.out", "jump1.cn", "jump1.dg", "walk1.dg"));
 }
@@ -136,7 +147,8 @@ TEST_F(StrayFile, isNotLeftBehindWhereAResultCannotBeWritten)
 {
     // The longest name that a file can have: with ".cfb" in the place of ".dg" it is too long.
     const std::string longest = std::string(252, 'x') + ".dg";
-    directory.write(longest, "title\n");
+    if (!std::ofstream(directory.path(longest)).is_open())
+        GTEST_SKIP() << "The longest name is too long for a path here.";
     const auto before = directory.names();
     const Ended ended = directory.run("dg2cfb.exe", {longest});
     EXPECT_EQ(ended.exitCode, 4);

@@ -2,16 +2,28 @@
 
 #include <algorithm>
 #include <fstream>
+#include <ios>
 #include <iterator>
+#include <random>
 #include <stdexcept>
 #include <system_error>
 #include <utility>
 
-#include <unistd.h>
-
 namespace fs = std::filesystem;
 
 namespace practice_tests {
+
+namespace {
+
+std::string readAll(const fs::path &path, std::ios::openmode mode)
+{
+    std::ifstream file(path, mode);
+    if (!file.is_open())
+        throw std::runtime_error("cannot read " + textOf(path));
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+} // namespace
 
 std::string sentenceOf(const std::string &title)
 {
@@ -39,27 +51,29 @@ std::vector<std::string> linesOf(const std::string &text)
 
 std::string contentOf(const fs::path &path)
 {
-    std::ifstream file(path, std::ios::binary);
-    if (!file.is_open())
-        throw std::runtime_error("cannot read " + path.string());
-    return {std::istreambuf_iterator<char>(file), {}};
+    return readAll(path, std::ios::in | std::ios::binary);
+}
+
+std::string textIn(const fs::path &path)
+{
+    return readAll(path, std::ios::in);
 }
 
 std::vector<std::string> namesIn(const fs::path &directory)
 {
     std::vector<std::string> names;
     for (const auto &entry : fs::directory_iterator(directory))
-        names.push_back(entry.path().filename().string());
+        names.push_back(textOf(entry.path().filename()));
     std::sort(names.begin(), names.end());
     return names;
 }
 
 TrialDirectory::TrialDirectory()
 {
-    std::string pattern = (fs::temp_directory_path() / "practice-test-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr)
-        throw std::runtime_error("no temporary directory");
-    root_ = pattern;
+    std::random_device random;
+    do {
+        root_ = fs::temp_directory_path() / ("practice-test-" + std::to_string(random()));
+    } while (!fs::create_directory(root_));
     fs::create_directory(path());
 }
 
@@ -80,7 +94,7 @@ void TrialDirectory::write(const std::string &name, const std::string &text) con
 Ended TrialDirectory::run(const std::string &program, std::vector<std::string> arguments) const
 {
     arguments.insert(arguments.begin(), program);
-    return runToEnd({STAND_IN_PROGRAM, std::move(arguments), path(), "/dev/null"});
+    return runToEnd({STAND_IN_PROGRAM, std::move(arguments), path()});
 }
 
 } // namespace practice_tests

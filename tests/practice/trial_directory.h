@@ -1,6 +1,7 @@
 #pragma once
 
 #include "started_program.h"
+#include "test_host.h"
 
 #include <filesystem>
 #include <string>
@@ -20,6 +21,9 @@ std::vector<std::string> linesOf(const std::string &text);
 /// All of a file's bytes.
 std::string contentOf(const std::filesystem::path &path);
 
+/// The text in a file, with "\n" at the ends of lines.
+std::string textIn(const std::filesystem::path &path);
+
 /// The names in a directory, in order.
 std::vector<std::string> namesIn(const std::filesystem::path &directory);
 
@@ -33,13 +37,13 @@ public:
     ~TrialDirectory();
 
     std::filesystem::path path() const { return root_ / "data"; }
-    std::filesystem::path path(const std::string &name) const { return path() / name; }
+    std::filesystem::path path(const std::string &name) const { return path() / pathOf(name); }
 
     /// A place outside of "data".
-    std::filesystem::path outside(const std::string &name) const { return root_ / name; }
+    std::filesystem::path outside(const std::string &name) const { return root_ / pathOf(name); }
 
     void write(const std::string &name, const std::string &text) const;
-    std::string read(const std::string &name) const { return contentOf(path(name)); }
+    std::string read(const std::string &name) const { return textIn(path(name)); }
     std::vector<std::string> names() const { return namesIn(path()); }
 
     /// Runs the stand-in under the name `program` with `arguments`.
