@@ -16,3 +16,14 @@ if(KINOVRA_SANITIZERS)
     -fsanitize=${KINOVRA_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(kinovra_options INTERFACE -fsanitize=${KINOVRA_SANITIZERS})
 endif()
+
+# With a static Qt a program is one file, and its bytes depend on the sources alone: not on the time, nor on where they
+# are.
+if(MINGW)
+  get_target_property(qt_library_type Qt6::Core TYPE)
+  if(qt_library_type STREQUAL "STATIC_LIBRARY")
+    target_compile_options(kinovra_options INTERFACE
+      "-ffile-prefix-map=${CMAKE_SOURCE_DIR}=kinovra" "-ffile-prefix-map=${CMAKE_BINARY_DIR}=build")
+    target_link_options(kinovra_options INTERFACE -static -s -Wl,--gc-sections -Wl,--no-insert-timestamp)
+  endif()
+endif()

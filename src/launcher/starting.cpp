@@ -45,7 +45,7 @@ QString endingText(const RunningProgram &program, const Ending &ending)
                    ? QString()
                    : u"%1 could not be opened."_s.arg(program.name);
     if (ending.kind == Ending::Kind::Crashed)
-        return u"%1 was stopped by an error (signal %2)."_s.arg(program.name, QString::number(ending.code));
+        return u"%1 was stopped by an error (%2)."_s.arg(program.name, ending.reason);
     if (ending.kind == Ending::Kind::TerminalFailed)
         return u"%1 may not have run: its terminal failed."_s.arg(program.name);
     if (ending.code != 0)

@@ -1,5 +1,7 @@
 #include "platform/text_decoding.h"
 
+#include "platform/runtime_error.h"
+
 #include <QStringDecoder>
 
 #include <algorithm>
@@ -22,6 +24,24 @@ char16_t fromCodePage1252(char c)
     return byte >= 0x80 && byte <= 0x9F ? Extras[byte - 0x80U] : char16_t(byte);
 }
 
+// Cuts a line that goes on beyond what was read between two characters.
+QByteArrayView withoutHalfCharacter(QByteArrayView bytes)
+{
+    qsizetype end = bytes.size();
+    while (end > 0 && bytes.size() - end < 4 && (static_cast<unsigned char>(bytes[end - 1]) & 0xC0U) == 0x80U)
+        --end;
+    return end > 0 && static_cast<unsigned char>(bytes[end - 1]) >= 0xC0U ? bytes.first(end - 1) : bytes;
+}
+
+// Where the first line ends: before a carriage return, a line feed, or the end-of-file mark of DOS.
+qsizetype firstLineEnd(QByteArrayView bytes)
+{
+    constexpr char EndOfFile = '\x1A';
+    const auto end = std::find_if(bytes.begin(), bytes.end(),
+                                  [](char c) { return c == '\r' || c == '\n' || c == EndOfFile; });
+    return end - bytes.begin();
+}
+
 } // namespace
 
 QString decodeText(QByteArrayView bytes)
@@ -36,12 +56,12 @@ QString decodeText(QByteArrayView bytes)
     return result;
 }
 
-qsizetype firstLineEnd(QByteArrayView bytes)
+QString firstLineOf(QByteArrayView start)
 {
-    constexpr char EndOfFile = '\x1A';
-    const auto end = std::find_if(bytes.begin(), bytes.end(),
-                                  [](char c) { return c == '\r' || c == '\n' || c == EndOfFile; });
-    return end - bytes.begin();
+    if (start.isEmpty() || start.at(0) == '\x1A')
+        throw RuntimeError(ErrorNumber::InputPastEnd);
+    const QByteArrayView line = start.first(firstLineEnd(start));
+    return decodeText(line.size() == LongestFirstLine ? withoutHalfCharacter(line) : line);
 }
 
 } // namespace platform

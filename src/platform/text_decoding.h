@@ -9,8 +9,11 @@ namespace platform {
 /// order mark is dropped.
 QString decodeText(QByteArrayView bytes);
 
-/// Where the first line of `bytes` ends: before a carriage return, a line feed, or the end-of-file mark of
-/// DOS.
-qsizetype firstLineEnd(QByteArrayView bytes);
+/// How much of a file is read for its first line, in bytes.
+constexpr qsizetype LongestFirstLine = 65'536;
+
+/// The first line of a file that begins with `start`, without its end; of a longer line the characters that
+/// are whole in `start`. Raises InputPastEnd where the file is empty.
+QString firstLineOf(QByteArrayView start);
 
 } // namespace platform

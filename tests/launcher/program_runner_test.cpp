@@ -404,7 +404,7 @@ TEST_F(ProgramEnds, with_an_error_and_the_status_bar_says_so)
 TEST_F(ProgramEnds, by_a_crash_and_the_status_bar_says_so)
 {
     run();
-    end({Ending::Kind::Crashed, 11});
+    end({Ending::Kind::Crashed, 11, u"signal 11"_s});
     EXPECT_EQ(said(), u"KINEMATI.EXE was stopped by an error (signal 11)."_s);
 }
 

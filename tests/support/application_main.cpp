@@ -20,6 +20,11 @@ int main(int argc, char *argv[])
 {
     qInstallMessageHandler(printMessage);
     qputenv("QT_QPA_PLATFORM", "offscreen");
+#ifdef _WIN32
+    // Without a screen there are no fonts but those of a directory.
+    const QByteArray fonts = qgetenv("KINOVRA_TEST_FONTS");
+    qputenv("QT_QPA_FONTDIR", fonts.isEmpty() ? QByteArray("C:/Windows/Fonts") : fonts);
+#endif
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);

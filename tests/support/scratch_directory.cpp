@@ -94,17 +94,6 @@ QList<QByteArray> ScratchDirectory::names(const QByteArray &directory) const
     return result;
 }
 
-ScopedVariable::ScopedVariable(const char *name, const QByteArray &value)
-    : name_(name), before_(qgetenv(name))
-{
-    value.isNull() ? qunsetenv(name) : qputenv(name, value);
-}
-
-ScopedVariable::~ScopedVariable()
-{
-    before_.isNull() ? qunsetenv(name_) : qputenv(name_, before_);
-}
-
 WithoutPrivileges::WithoutPrivileges()
 {
     if (::geteuid() == 0)

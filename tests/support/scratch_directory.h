@@ -5,7 +5,8 @@
 
 namespace support {
 
-/// A fresh directory of the host for real files, removed with all that it holds. Names are bytes of the host.
+/// A fresh directory of the host for real files, removed with all that it holds. Names are bytes of the host;
+/// on Windows they are UTF-8, with either separator.
 class ScratchDirectory
 {
 public:
@@ -70,7 +71,11 @@ public:
     KeptDirectory &operator=(const KeptDirectory &) = delete;
 
 private:
+#ifdef _WIN32
+    QByteArray path_;
+#else
     int descriptor_;
+#endif
 };
 
 } // namespace support

@@ -2,19 +2,15 @@
 #include "scratch_directory.h"
 #include "view_fixture.h"
 #include "views/message_boxes.h"
-#include "views/printer_set_up.h"
 
 #include <QApplication>
 #include <QColorDialog>
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
@@ -197,17 +193,6 @@ TEST_F(MessageBoxViews, break_and_shorten_long_paths)
         box.accept();
     });
     boxes.message({u"C:\\DATA\\WALK1.DG is there"_s});
-}
-
-TEST_F(MessageBoxViews, set_a_printer_up)
-{
-    QPrinter printer;
-    const auto dialog = views::makePrinterSetUp(printer, nullptr);
-    EXPECT_EQ(dialog->windowTitle(), u"Print Setup"_s);
-    EXPECT_EQ(dialog->options(), QAbstractPrintDialog::PrintDialogOptions());
-    const auto *buttons = dialog->findChild<QDialogButtonBox *>();
-    ASSERT_NE(buttons, nullptr);
-    EXPECT_EQ(buttons->button(QDialogButtonBox::Ok)->text(), u"OK"_s);
 }
 
 TEST_F(MessageBoxViews, say_that_there_is_no_printer_to_set_up)

@@ -1,5 +1,7 @@
 #include "platform/linux/console_reports.h"
 
+#include "platform/linux/process_starter.h"
+
 #include <QList>
 #include <QSocketNotifier>
 
@@ -84,8 +86,9 @@ void ConsoleReports::receive()
             return;
         const QList<QByteArray> words = QByteArray(buffer.data(), size).split(' ');
         if (words.size() == 3) {
-            const auto kind = words[1] == "signal" ? Ending::Kind::Crashed : Ending::Kind::Exited;
-            ended_(words[0].toInt(), {kind, words[2].toInt()});
+            const int code = words[2].toInt();
+            ended_(words[0].toInt(),
+                   words[1] == "signal" ? endedBySignal(code) : Ending{Ending::Kind::Exited, code});
         }
     }
 }

@@ -1,5 +1,6 @@
 #include "platform/linux/directory_changes.h"
 
+#include "platform/directory_names.h"
 #include "platform/linux/directory_reader.h"
 #include "platform/linux/host_names.h"
 #include "platform/linux/system_error.h"
@@ -15,13 +16,6 @@ using namespace Qt::StringLiterals;
 namespace platform::host {
 
 namespace {
-
-// A drive, "." and ".." mean another directory as soon as the current one does.
-bool endsWithName(const QString &path)
-{
-    const QStringList names = splitPath(path).Names;
-    return !names.isEmpty() && names.last() != u"." && names.last() != u"..";
-}
 
 // A name that its directory would show in another spelling (a quote stands for itself in no name) or that
 // leads elsewhere is not the name of what would be made or removed.
@@ -56,11 +50,6 @@ bool isTaken(const QByteArray &directory, const QString &path, const QString &na
             throw;
         return false;
     }
-}
-
-[[noreturn]] void raiseTaken()
-{
-    throw RuntimeError(ErrorNumber::PathFileAccess, u"There is something of this name already"_s);
 }
 
 // Whether a directory is the root of a drive, by whatever path it was reached.
@@ -104,10 +93,7 @@ void removeHostDirectory(const DriveMap &drives, const CurrentDirectories &curre
     const QString absolute = current.absolute(path);
     if (!drives.contains(absolute.at(0)))
         throw RuntimeError(ErrorNumber::DeviceUnavailable);
-    if (splitPath(path).Names.isEmpty())
-        throw RuntimeError(ErrorNumber::PathFileAccess, u"A drive cannot be removed"_s);
-    if (!endsWithName(path))
-        throw RuntimeError(ErrorNumber::PathFileAccess, u"It must be called by its own name"_s);
+    requireOwnName(path);
     requireTrueSpelling(absolute);
     const QByteArray directory = drives.toHost(absolute);
     struct stat status = {};
@@ -118,7 +104,7 @@ void removeHostDirectory(const DriveMap &drives, const CurrentDirectories &curre
     if (!S_ISDIR(status.st_mode))
         throw RuntimeError(ErrorNumber::PathFileAccess, u"It is not a directory"_s);
     if (isRoot(drives, status))
-        throw RuntimeError(ErrorNumber::PathFileAccess, u"A drive cannot be removed"_s);
+        raiseDrive();
     // Whatever has taken the name since, this follows no link and removes nothing but an empty directory.
     if (::rmdir(directory.constData()) != 0) {
         if (errno == ENOTEMPTY || errno == EEXIST)

@@ -26,8 +26,6 @@ namespace platform::host {
 
 namespace {
 
-constexpr qsizetype LongestLine = 65'536;
-
 QByteArray processDirectory()
 {
     const std::unique_ptr<char, decltype(&std::free)> path(::getcwd(nullptr, 0), &std::free);
@@ -65,15 +63,6 @@ public:
 private:
     FileDescriptor file_;
 };
-
-// Cuts a line that goes on beyond what was read between two characters.
-QByteArrayView withoutHalfCharacter(QByteArrayView bytes)
-{
-    qsizetype end = bytes.size();
-    while (end > 0 && bytes.size() - end < 4 && (static_cast<unsigned char>(bytes[end - 1]) & 0xC0U) == 0x80U)
-        --end;
-    return end > 0 && static_cast<unsigned char>(bytes[end - 1]) >= 0xC0U ? bytes.first(end - 1) : bytes;
-}
 
 } // namespace
 
@@ -163,12 +152,7 @@ std::unique_ptr<OpenedFile> LinuxFileSystem::openFile(const QString &path)
 
 QString LinuxFileSystem::firstLine(const QString &path)
 {
-    const QByteArray start = readFrom(openForReading(openable(path)), LongestLine);
-    if (start.isEmpty() || start.at(0) == '\x1A')
-        throw RuntimeError(ErrorNumber::InputPastEnd);
-    const qsizetype end = firstLineEnd(start);
-    const QByteArrayView line = QByteArrayView(start).first(end);
-    return decodeText(end == LongestLine ? withoutHalfCharacter(line) : line);
+    return firstLineOf(readFrom(openForReading(openable(path)), LongestFirstLine));
 }
 
 QString LinuxFileSystem::shortName(const QString &path)

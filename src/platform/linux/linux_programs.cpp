@@ -5,6 +5,7 @@
 #include "platform/linux/host_names.h"
 #include "platform/linux/program_file.h"
 #include "platform/runtime_error.h"
+#include "platform/start_rules.h"
 
 #include <algorithm>
 #include <array>
@@ -22,12 +23,6 @@ namespace platform::host {
 
 namespace {
 
-// What an "open" that fails is worth, by what is missing.
-constexpr double FileNotFound = 2;
-constexpr double AccessDenied = 5;
-constexpr double BadFormat = 11;
-constexpr double NoProgramForIt = 31;
-
 // A native program's header does not tell whether it opens windows of its own; these of the package do.
 constexpr std::array<const char *, 8> WindowedPrograms{"grafow",   "grafod", "acrospin", "skelvo",
                                                        "skelvo98", "ondex2", "forces",   "modlex"};
@@ -38,25 +33,6 @@ bool opensWindows(const QByteArray &program)
     const QByteArray base = name.endsWith(".exe") ? name.chopped(4) : name;
     return std::any_of(WindowedPrograms.begin(), WindowedPrograms.end(),
                        [&base](const char *windowed) { return base == windowed; });
-}
-
-bool isBare(const QString &file)
-{
-    return !file.contains(u'\\') && !file.contains(u':');
-}
-
-// A name of one file: nothing that leads out of its directory, in the panel's path language or in the host's.
-bool isPlainName(const QString &name)
-{
-    const auto leadsAway = [](QChar c) { return c == u'\\' || c == u'/' || c == u':' || c == u'\0'; };
-    return name != u"." && name != u".." && std::none_of(name.begin(), name.end(), leadsAway);
-}
-
-// Blanks and control characters have no place in an address, and might part it into several arguments.
-bool isWebAddress(const QString &text)
-{
-    const auto isForeign = [](QChar c) { return c.isSpace() || c.category() == QChar::Other_Control; };
-    return text.startsWith(u"https://") && std::none_of(text.begin(), text.end(), isForeign);
 }
 
 QByteArray directoryOf(const QByteArray &path)
@@ -106,7 +82,7 @@ struct LinuxPrograms::Command
     QList<QByteArray> arguments = {};
     bool inTerminal = false;
     QString failure = {};
-    double failureValue = FileNotFound;
+    double failureValue = open_failure::NotFound;
 };
 
 LinuxPrograms::LinuxPrograms(LinuxFileSystem &files, QByteArray consoleHelper)
@@ -128,9 +104,10 @@ StartResult LinuxPrograms::start(const Start &start)
         // The root: a browser that stays must not keep a data directory busy.
         const auto directory = anywhere ? QByteArray("/") : files_.hostDirectory(start.directory);
         if (!directory)
-            return failed(FileNotFound, u"the directory %1 is gone"_s.arg(start.directory));
+            return failed(open_failure::NotFound, u"the directory %1 is gone"_s.arg(start.directory));
         if (::faccessat(AT_FDCWD, directory->constData(), X_OK, AT_EACCESS) != 0)
-            return failed(AccessDenied, u"the directory %1 may not be entered"_s.arg(start.directory));
+            return failed(open_failure::AccessDenied,
+                          u"the directory %1 may not be entered"_s.arg(start.directory));
         const Command command = commandFor(start, *directory);
         if (!command.failure.isEmpty())
             return failed(command.failureValue, command.failure);
@@ -146,9 +123,9 @@ StartResult LinuxPrograms::start(const Start &start)
                                                  tell(value, ending);
                                          });
         if (error != 0)
-            return failed(error == EACCES    ? AccessDenied
-                          : error == ENOEXEC ? BadFormat
-                                             : FileNotFound,
+            return failed(error == EACCES    ? open_failure::AccessDenied
+                          : error == ENOEXEC ? open_failure::BadFormat
+                                             : open_failure::NotFound,
                           reason(error));
         if (inWindow)
             inTerminals_.append(value);
@@ -156,7 +133,7 @@ StartResult LinuxPrograms::start(const Start &start)
     } catch (const RuntimeError &error) {
         const bool denied = start.target != Target::Program
                             && error.Number == static_cast<qint16>(ErrorNumber::PermissionDenied);
-        return failed(denied ? AccessDenied : FileNotFound,
+        return failed(denied ? open_failure::AccessDenied : open_failure::NotFound,
                       error.Description.left(1).toLower() + error.Description.mid(1));
     }
 }
@@ -167,7 +144,7 @@ LinuxPrograms::Command LinuxPrograms::commandFor(const Start &start, const QByte
         return documentCommand(start, directory);
     if (start.target == Target::Address)
         return addressCommand(start);
-    if (isBare(start.file)) {
+    if (isBareName(start.file)) {
         if (isAccessory(start.file))
             return accessoryCommand(start);
         const QByteArray program = findInPath(toHostName(start.file));
@@ -194,7 +171,7 @@ LinuxPrograms::Command LinuxPrograms::documentCommand(const Start &start, const 
     if (!S_ISREG(status.st_mode))
         return {.failure = u"it is not a file"_s};
     if (::faccessat(AT_FDCWD, found->constData(), R_OK, AT_EACCESS) != 0)
-        return {.failure = u"permission was denied"_s, .failureValue = AccessDenied};
+        return {.failure = u"permission was denied"_s, .failureValue = open_failure::AccessDenied};
     return openerCommand(*found);
 }
 
@@ -220,7 +197,8 @@ LinuxPrograms::Command LinuxPrograms::openerCommand(const QByteArray &argument)
 {
     const QList<QByteArray> opener = desktopOpener();
     if (opener.isEmpty())
-        return {.failure = u"this desktop has nothing to open it with"_s, .failureValue = NoProgramForIt};
+        return {.failure = u"this desktop has nothing to open it with"_s,
+                .failureValue = open_failure::NoProgramForIt};
     return {.arguments = opener + QList{argument}};
 }
 
@@ -268,15 +246,15 @@ LinuxPrograms::Command LinuxPrograms::programCommand(const Start &start, const Q
         break;
     }
     if (::access(program.constData(), R_OK) != 0)
-        return {.failure = u"permission was denied"_s, .failureValue = AccessDenied};
-    return {.failure = u"it is not a program"_s, .failureValue = BadFormat};
+        return {.failure = u"permission was denied"_s, .failureValue = open_failure::AccessDenied};
+    return {.failure = u"it is not a program"_s, .failureValue = open_failure::BadFormat};
 }
 
 LinuxPrograms::Command LinuxPrograms::nativeCommand(const Start &start, const QByteArray &program)
 {
     // A terminal would not tell.
     if (::access(program.constData(), X_OK) != 0)
-        return {.failure = reason(EACCES), .failureValue = AccessDenied};
+        return {.failure = reason(EACCES), .failureValue = open_failure::AccessDenied};
     const QByteArray interpreter = interpreterOf(program);
     if (!interpreter.isEmpty() && ::access(interpreter.constData(), X_OK) != 0)
         return {.failure = reason(ENOENT)};
@@ -291,7 +269,7 @@ LinuxPrograms::Command LinuxPrograms::nativeCommand(const Start &start, const QB
 QStringList LinuxPrograms::documentArguments(const Start &start)
 {
     return start.parameters.arguments([&](const QString &document) {
-        const QString path = isBare(document) ? joinPath(start.directory, document) : document;
+        const QString path = isBareName(document) ? joinPath(start.directory, document) : document;
         const auto found = files_.hostDocument(path);
         return found ? decoded(*found) : document;
     });

@@ -59,6 +59,11 @@ private:
 
 } // namespace
 
+Ending endedBySignal(int signal)
+{
+    return {Ending::Kind::Crashed, signal, QStringLiteral("signal %1").arg(signal)};
+}
+
 ProcessStarter::ProcessStarter() = default;
 
 ProcessStarter::~ProcessStarter()
@@ -113,7 +118,7 @@ void ProcessStarter::reap(int descriptor)
     child.notifier.release()->deleteLater();
     ::close(descriptor);
     if (WIFSIGNALED(status))
-        child.ended({Ending::Kind::Crashed, WTERMSIG(status)});
+        child.ended(endedBySignal(WTERMSIG(status)));
     else
         child.ended({Ending::Kind::Exited, WEXITSTATUS(status)});
 }

@@ -15,6 +15,9 @@ class QSocketNotifier;
 
 namespace platform::host {
 
+/// How a program ended that a signal has stopped.
+Ending endedBySignal(int signal);
+
 /// Starts processes of the host that outlive the panel, and hears of their ends without waiting.
 class ProcessStarter
 {

@@ -90,6 +90,7 @@ protected:
         run(start);
         EXPECT_EQ(ends.back().ending.kind, Ending::Kind::Crashed);
         EXPECT_EQ(ends.back().ending.code, SIGABRT);
+        EXPECT_EQ(ends.back().ending.reason, u"signal 6"_s);
     }
 
     void waitForEnd()
