@@ -26,8 +26,9 @@ struct Ending
         TerminalFailed ///< the terminal that was to show it has ended, and nothing is known of the program
     };
     Kind kind = Kind::Exited;
-    int code = 0;        ///< exit code, or the system's number for a crash
-    QString reason = {}; ///< of a crash: what the system says of it, such as "signal 11"
+    int code = 0; ///< exit code, or the system's number for a crash
+    QString reason =
+        {}; ///< what the system says of it, where that is more than a number, such as "signal 11"
 };
 
 /// Starts programs, never through a shell and never waiting for them. A bare name is looked for where the

@@ -87,8 +87,7 @@ void ConsoleReports::receive()
         const QList<QByteArray> words = QByteArray(buffer.data(), size).split(' ');
         if (words.size() == 3) {
             const int code = words[2].toInt();
-            ended_(words[0].toInt(),
-                   words[1] == "signal" ? endedBySignal(code) : Ending{Ending::Kind::Exited, code});
+            ended_(words[0].toInt(), words[1] == "signal" ? endedBySignal(code) : endedByItself(code));
         }
     }
 }

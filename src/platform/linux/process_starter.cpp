@@ -64,6 +64,14 @@ Ending endedBySignal(int signal)
     return {Ending::Kind::Crashed, signal, QStringLiteral("signal %1").arg(signal)};
 }
 
+Ending endedByItself(int code)
+{
+    constexpr int SomethingIsMissing = 127;
+    return {Ending::Kind::Exited, code,
+            code == SomethingIsMissing ? QStringLiteral("a library or program that it needs may be missing")
+                                       : QString()};
+}
+
 ProcessStarter::ProcessStarter() = default;
 
 ProcessStarter::~ProcessStarter()
@@ -120,7 +128,7 @@ void ProcessStarter::reap(int descriptor)
     if (WIFSIGNALED(status))
         child.ended(endedBySignal(WTERMSIG(status)));
     else
-        child.ended({Ending::Kind::Exited, WEXITSTATUS(status)});
+        child.ended(endedByItself(WEXITSTATUS(status)));
 }
 
 void ProcessStarter::reapUnwatched()

@@ -18,6 +18,9 @@ namespace platform::host {
 /// How a program ended that a signal has stopped.
 Ending endedBySignal(int signal);
 
+/// How a program ended by itself. The system's loader and its interpreters have a number for what they miss.
+Ending endedByItself(int code);
+
 /// Starts processes of the host that outlive the panel, and hears of their ends without waiting.
 class ProcessStarter
 {

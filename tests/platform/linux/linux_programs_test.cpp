@@ -85,6 +85,14 @@ protected:
             run(start);
             EXPECT_EQ(ends.back().ending.kind, Ending::Kind::Exited);
             EXPECT_EQ(ends.back().ending.code, 3);
+            EXPECT_EQ(ends.back().ending.reason, QString());
+        }
+        {
+            const support::ScopedVariable code("ECHO_EXIT", "127");
+            run(start);
+            EXPECT_EQ(ends.back().ending.kind, Ending::Kind::Exited);
+            EXPECT_EQ(ends.back().ending.code, 127);
+            EXPECT_EQ(ends.back().ending.reason, u"a library or program that it needs may be missing"_s);
         }
         const support::ScopedVariable code("ECHO_EXIT", "abort");
         run(start);
