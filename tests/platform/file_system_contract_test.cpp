@@ -366,6 +366,10 @@ TEST_P(FileSystemContract, gives_the_short_name_of_an_existing_file)
     world->makeFile(u"run1.dg"_s, "x");
     EXPECT_EQ(files.shortName(at(u"run1.dg"_s)).toUpper(), u"RUN1.DG"_s);
     EXPECT_EQ(errorOf([&] { files.shortName(at(u"missing.dg"_s)); }), 53);
+    world->makeDirectory(u"folder.dg"_s);
+    EXPECT_EQ(errorOf([&] { files.shortName(at(u"folder.dg"_s)); }), 75);
+    world->forbid(u"run1.dg"_s);
+    EXPECT_EQ(files.shortName(at(u"run1.dg"_s)).toUpper(), u"RUN1.DG"_s) << "it need not be readable";
 }
 
 TEST_P(FileSystemContract, stamps_change_when_a_file_is_written)

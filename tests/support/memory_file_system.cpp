@@ -230,12 +230,19 @@ const MemoryFileSystem::Node &MemoryFileSystem::openable(const QString &path) co
 {
     const QString full = absolute(path);
     const Node *node = find(full);
+    if (node != nullptr && node->error)
+        throw RuntimeError(*node->error);
+    return existing(path);
+}
+
+const MemoryFileSystem::Node &MemoryFileSystem::existing(const QString &path) const
+{
+    const QString full = absolute(path);
+    const Node *node = find(full);
     if (node == nullptr) {
         const Node *parent = find(platform::parentOf(full));
         throw RuntimeError(parent != nullptr ? ErrorNumber::FileNotFound : ErrorNumber::PathNotFound);
     }
-    if (node->error)
-        throw RuntimeError(*node->error);
     if (node->isDirectory)
         throw RuntimeError(ErrorNumber::PathFileAccess);
     return *node;
@@ -273,7 +280,7 @@ QString MemoryFileSystem::firstLine(const QString &path)
 QString MemoryFileSystem::shortName(const QString &path)
 {
     announce("shortName");
-    const Node &node = openable(path);
+    const Node &node = existing(path);
     return node.shortName.isEmpty() ? platform::nameOf(node.path) : node.shortName;
 }
 

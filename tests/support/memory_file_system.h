@@ -85,6 +85,7 @@ private:
     QString absolute(const QString &path) const;
     const QMap<QString, Node> &visible() const { return moments_ > 0 ? seen_ : nodes_; }
     const Node *find(const QString &absolutePath) const;
+    const Node &existing(const QString &path) const;
     const Node &openable(const QString &path) const;
     Node &makeNode(const QString &path);
 

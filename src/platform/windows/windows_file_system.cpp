@@ -154,8 +154,11 @@ QString WindowsFileSystem::firstLine(const QString &path)
 QString WindowsFileSystem::shortName(const QString &path)
 {
     const QuietDrives quiet;
-    opened(path);
     const QString whole = absolute(path);
+    if (!askedAbout(whole).isValid())
+        raiseForReading(::GetLastError());
+    if (isDirectory(attributesOf(whole)))
+        throw RuntimeError(ErrorNumber::PathFileAccess);
     const std::wstring name = systemPath(whole);
     const QString shortPath = textOf(
         [&name](wchar_t *buffer, DWORD size) { return ::GetShortPathNameW(name.c_str(), buffer, size); });
