@@ -78,12 +78,15 @@ void enableAveraging(Panel &panel)
 {
     auto [kinovra, frm, platform] = panel.parts();
 
-    const bool hasAverage = browser::TestFile(panel, kinovra.DataDir, u"average.sss"_s, browser::Silent) == 0;
-    const bool hasBinary = !kinovra.BinaryFile.isEmpty();
-    frm.mnuAverage[0].Enabled = hasBinary;
-    frm.mnuAverage[1].Enabled = hasBinary && hasAverage;
-    frm.mnuAverage[2].Enabled = hasAverage;
-    frm.mnuAverage[3].Enabled = hasBinary && hasAverage;
+    const qint16 error = browser::TestFile(panel, kinovra.DataDir, u"average.sss"_s, browser::Silent);
+    const QString noAverage = error == 0 ? QString() : u"Needs an average: begin a new one first"_s;
+    const QString noBinary =
+        kinovra.BinaryFile.isEmpty() ? u"Needs a binary file: click on one in the list"_s : QString();
+    const QString neither = noBinary.isEmpty() ? noAverage : noBinary;
+    frm.mnuAverage[NewAverage].enableUnless(noBinary);
+    frm.mnuAverage[AddTrial].enableUnless(neither);
+    frm.mnuAverage[ComputeAverages].enableUnless(noAverage);
+    frm.mnuAverage[SubtractTrial].enableUnless(neither);
 }
 
 void mnuAverage_Click(Panel &panel, int index)

@@ -5,6 +5,10 @@
 #include "platform/runtime_error.h"
 #include "shell/dispatch.h"
 
+#include <QMap>
+
+#include <vector>
+
 using namespace Qt::StringLiterals;
 
 namespace browser {
@@ -12,7 +16,6 @@ namespace browser {
 namespace {
 
 using platform::Icon;
-using platform::LCase;
 using platform::Reading;
 using platform::RuntimeError;
 using platform::UCase;
@@ -24,9 +27,18 @@ void show(controls::FileList &list, controls::Label &label)
     list.Visible = true;
 }
 
-void sayUnreadable(Panel &panel, const QString &path, const RuntimeError &error)
+// One reading serves all lists that show the directory.
+void refreshFrom(Panel &panel, const QString &path, const std::vector<FileList *> &lists, Reading reading)
 {
-    shell::say(panel, u"%1 cannot be read: %2."_s.arg(platform::shortFormOf(path), LCase(error.Description)));
+    try {
+        const auto directory = panel.platform.files.directory(path, reading);
+        for (FileList *list : lists)
+            list->refresh(directory->files(list->Pattern));
+    } catch (const RuntimeError &error) {
+        for (FileList *list : lists)
+            list->refresh({});
+        sayUnreadable(panel, path, error);
+    }
 }
 
 // The three graph buttons and the graph-type list take turns in one place.
@@ -45,13 +57,17 @@ void refreshDataDirectory(Panel &panel)
 {
     auto &frm = panel.frm;
 
-    const std::initializer_list<FileList *> lists{&frm.filDatafiles, &frm.filModels, &frm.filPlots,
-                                                  &frm.filBinaries, &frm.filOutputs};
-    refresh(panel, lists);
+    refresh(panel, {&frm.filDatafiles, &frm.filModels, &frm.filPlots, &frm.filBinaries, &frm.filOutputs});
     refreshDirectoryList(panel);
 }
 
 } // namespace
+
+void sayUnreadable(Panel &panel, const QString &path, const RuntimeError &error)
+{
+    shell::say(panel, u"%1 cannot be read: %2."_s.arg(platform::shortFormOf(path),
+                                                      platform::withinSentence(error.Description)));
+}
 
 void pointAt(Panel &panel, FileList &list, const QString &path)
 {
@@ -68,20 +84,25 @@ void pointAtDataDir(Panel &panel)
         list->show(*directory);
 }
 
-void refresh(Panel &panel, std::initializer_list<FileList *> lists)
+void refresh(Panel &panel, std::initializer_list<FileList *> lists, Reading reading)
 {
-    const QString path = (*lists.begin())->Path();
-    if (path.isEmpty())
-        return;
-    try {
-        const auto directory = panel.platform.files.directory(path, Reading::Anew);
-        for (FileList *list : lists)
-            list->refresh(directory->files(list->Pattern));
-    } catch (const RuntimeError &error) {
-        for (FileList *list : lists)
-            list->refresh({});
-        sayUnreadable(panel, path, error);
+    QMap<QString, std::vector<FileList *>> byPath;
+    for (FileList *list : lists) {
+        if (!list->Path().isEmpty())
+            byPath[list->Path()].push_back(list);
     }
+    for (const auto &[path, here] : byPath.asKeyValueRange())
+        refreshFrom(panel, path, here, reading);
+}
+
+void readChangedDirectories(Panel &panel)
+{
+    auto &frm = panel.frm;
+    refresh(panel,
+            {&frm.filDatafiles, &frm.filModels, &frm.filPlots, &frm.filBinaries, &frm.filOutputs,
+             &frm.filGraFiles},
+            Reading::WhenChanged);
+    refreshDirectoryList(panel);
 }
 
 void refreshDirectoryList(Panel &panel)

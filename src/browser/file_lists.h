@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/runtime_error.h"
 #include "shell/panel.h"
 
 #include <initializer_list>
@@ -15,10 +16,17 @@ void pointAt(Panel &panel, FileList &list, const QString &path);
 /// Points the five file lists of the data directory at it, with one pass over it. Raises as pointAt does.
 void pointAtDataDir(Panel &panel);
 
-/// Reads the directory of `lists` anew, once, and shows it in all of them; they must show the same directory.
-/// Selected names stay selected, no handler runs. Never raises: a directory that is gone empties the lists
-/// and is told in the status bar.
-void refresh(Panel &panel, std::initializer_list<FileList *> lists);
+/// Reads the directories of `lists`, each once, and shows them. Selected names stay selected, no handler
+/// runs. Never raises: a directory that is gone empties its lists and is told in the status bar.
+void refresh(Panel &panel, std::initializer_list<FileList *> lists,
+             platform::Reading reading = platform::Reading::Anew);
+
+/// Reads again what has changed while another window was active: the directories of all lists, and the
+/// directory list. Selected names stay selected, no handler runs. Never raises.
+void readChangedDirectories(Panel &panel);
+
+/// Says in the status bar that the directory `path` cannot be read, because of `error`.
+void sayUnreadable(Panel &panel, const QString &path, const platform::RuntimeError &error);
 
 /// Shows the open directory's sub-directories as they are now. No handler runs. Never raises.
 void refreshDirectoryList(Panel &panel);

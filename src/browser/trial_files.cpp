@@ -1,5 +1,6 @@
 #include "browser/trial_files.h"
 
+#include "browser/hindrances.h"
 #include "browser/test_file.h"
 
 namespace browser {
@@ -31,7 +32,13 @@ qint16 TrialFiles::test(const char *extension)
 {
     name_.truncate(length_);
     name_ += QLatin1String(extension);
-    return TestFile(panel_, panel_.kinovra.DataDir, name_, Silent);
+    error_ = TestFile(panel_, panel_.kinovra.DataDir, name_, Silent);
+    return error_;
+}
+
+QString TrialFiles::hindrance() const
+{
+    return trialFileHindrance(panel_, name_.mid(length_), error_);
 }
 
 bool TrialFiles::hasEither(const char *extension, const char *other)

@@ -12,7 +12,15 @@ struct MenuItem
     QProperty<QString> Caption;
     QProperty<bool> Visible{true};
     QProperty<bool> Enabled{true};
+    QProperty<QString> Hindrance; ///< of a greyed item: why it is greyed, a sentence for the user
     QProperty<bool> Checked{false};
+
+    /// Enables the item where nothing hinders it, and greys it otherwise.
+    void enableUnless(const QString &hindrance)
+    {
+        Hindrance = hindrance;
+        Enabled = hindrance.isEmpty();
+    }
 
     Event Click;
     Event Opening; ///< of a menu: it is about to open

@@ -43,7 +43,7 @@ bool enableApasTypes(Panel &panel)
     bool any = false;
     for (size_t type = 0; type < ApasExtensions.size(); ++type) {
         const bool has = trial.hasByAnswer(ApasExtensions[type]);
-        panel.frm.mnuArielType[type].Enabled = has;
+        panel.frm.mnuArielType[type].enableUnless(trial.hindrance());
         any = any || has;
     }
     return any;

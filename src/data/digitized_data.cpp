@@ -120,10 +120,13 @@ void mnuDatafiles_Click(Panel &panel)
     browser::TrialFiles trial(panel);
     const bool hasData = trial.hasByAnswer(".dg");
     for (size_t item = ScaleRefine; item <= Renumber; ++item)
-        items[item].Enabled = hasData;
-    items[ScaleRefine].Enabled = trial.hasByAnswer(".CN") && hasData;
-    items[Renumber].Enabled = trial.hasByAnswer(".REN") && hasData;
-    panel.frm.mnuConvert[PeakPerformance].Enabled = trial.hasByAnswer(".cda");
+        items[item].enableUnless(trial.hindrance());
+    if (!trial.hasByAnswer(".CN") && hasData)
+        items[ScaleRefine].enableUnless(trial.hindrance());
+    if (!trial.hasByAnswer(".REN") && hasData)
+        items[Renumber].enableUnless(trial.hindrance());
+    trial.hasByAnswer(".cda");
+    panel.frm.mnuConvert[PeakPerformance].enableUnless(trial.hindrance());
 }
 
 } // namespace data

@@ -130,17 +130,19 @@ void mnuModels_Click(Panel &panel)
 {
     auto &items = panel.frm.mnuModel;
 
-    for (size_t item = CopyData; item <= MergeForces; ++item)
-        items[item].Enabled = false;
     panel.frm.mnuNewModel.Enabled = true;
     browser::TrialFiles trial(panel);
-    if (!trial.hasByAnswer(".cfb"))
+    const bool hasModel = trial.hasByAnswer(".cfb");
+    for (size_t item = CopyData; item <= MergeForces; ++item)
+        items[item].enableUnless(trial.hindrance());
+    if (!hasModel)
         return;
-    items[EditModel].Enabled = true;
-    items[ViewInNotepad].Enabled = true;
-    items[CopyData].Enabled = trial.hasByAnswer(".dg");
-    items[AddForces].Enabled = trial.hasByAnswer(".rf");
-    items[MergeForces].Enabled = trial.hasByAnswer(".rf2");
+    trial.hasByAnswer(".dg");
+    items[CopyData].enableUnless(trial.hindrance());
+    trial.hasByAnswer(".rf");
+    items[AddForces].enableUnless(trial.hindrance());
+    trial.hasByAnswer(".rf2");
+    items[MergeForces].enableUnless(trial.hindrance());
 }
 
 } // namespace data

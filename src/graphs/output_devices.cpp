@@ -40,6 +40,17 @@ QString switchCleared()
     return u"Graphics switch cleared"_s;
 }
 
+// It is no longer true; what was said behind it is.
+void withdrawSwitchCleared(Panel &panel)
+{
+    const QString said = panel.frm.StatusBar1.Panel1;
+    const QString before = switchCleared() + u". "_s;
+    if (said == switchCleared())
+        shell::say(panel, QString());
+    else if (said.startsWith(before))
+        shell::say(panel, said.mid(before.size()));
+}
+
 void checkOnly(controls::MenuArray<4> &items, int index)
 {
     for (controls::MenuItem &item : items)
@@ -71,8 +82,7 @@ void mnuGraphics_Click(Panel &panel, int index)
 
     const DeviceRow row = rowOf(GraphicsDevices, index, OtherGraphicsDevice);
     frm.GraphicsSwitch = QLatin1String(row.switchText);
-    if (frm.StatusBar1.Panel1.value() == switchCleared())
-        shell::say(panel, QString());
+    withdrawSwitchCleared(panel);
     kinovra.GraphicsDevice = QLatin1String(row.device);
     checkOnly(frm.mnuGraphics, index);
     frm.lblGraphics[1].Caption = kinovra.GraphicsDevice;

@@ -31,8 +31,9 @@ void mnuGraphPrint_Click(Panel &panel, int index)
     browser::refresh(panel, {&frm.filPlots});
     try {
         browser::pointAt(panel, frm.filPlots, kinovra.DataDir);
-    } catch (const platform::RuntimeError &) {
-        // The refresh has emptied the list, and the status bar says why.
+    } catch (const platform::RuntimeError &error) {
+        frm.filPlots.refresh({});
+        browser::sayUnreadable(panel, kinovra.DataDir, error);
     }
     if (frm.filPlots.ListCount() == 0) {
         MsgBox(panel, {u"No graphs in this directory."_s, Icon::Exclamation});

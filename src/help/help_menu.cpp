@@ -1,5 +1,6 @@
 #include "help/help_menu.h"
 
+#include "browser/hindrances.h"
 #include "browser/test_file.h"
 #include "help/updates.h"
 #include "launcher/starting.h"
@@ -38,9 +39,10 @@ void mnuHelp_Click(Panel &panel)
     auto [kinovra, frm, platform] = panel.parts();
 
     for (size_t i = 0; i < Topics.size(); ++i) {
-        kinovra.Answer =
-            browser::TestFile(panel, kinovra.ProgDir, QLatin1String(Topics[i].tested), browser::Silent);
-        frm.mnuHelpItem[i].Enabled = kinovra.Answer == 0;
+        const QString topic = QLatin1String(Topics[i].tested);
+        kinovra.Answer = browser::TestFile(panel, kinovra.ProgDir, topic, browser::Silent);
+        frm.mnuHelpItem[i].enableUnless(
+            browser::fileHindrance(topic, u"the program directory"_s, kinovra.Answer));
     }
 }
 

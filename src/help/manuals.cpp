@@ -1,5 +1,6 @@
 #include "help/manuals.h"
 
+#include "browser/hindrances.h"
 #include "browser/test_file.h"
 #include "launcher/starting.h"
 
@@ -45,9 +46,12 @@ void open(Panel &panel, const QString &manual)
 
 void mnuManuals_Click(Panel &panel)
 {
-    for (size_t i = 0; i < Manuals.size(); ++i)
-        panel.frm.mnuManual[i].Enabled =
-            has(panel, panel.kinovra.ManualsDir, QLatin1String(Manuals[i].tested));
+    for (size_t i = 0; i < Manuals.size(); ++i) {
+        const QString manual = QLatin1String(Manuals[i].tested);
+        has(panel, panel.kinovra.ManualsDir, manual);
+        panel.frm.mnuManual[i].enableUnless(
+            browser::fileHindrance(manual.mid(1), u"the manuals directory"_s, panel.kinovra.Answer));
+    }
 }
 
 void mnuManual_Click(Panel &panel, int index)

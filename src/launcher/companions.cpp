@@ -1,6 +1,7 @@
 #include "launcher/companions.h"
 
 #include "browser/current_trial.h"
+#include "browser/hindrances.h"
 #include "browser/test_file.h"
 #include "browser/trial_files.h"
 #include "launcher/program_runner.h"
@@ -141,7 +142,7 @@ void mnuSkelvo_Click(Panel &panel, int index)
 void mnuImages_Passed(Panel &panel)
 {
     for (controls::MenuItem &item : panel.frm.mnuSkelvo)
-        item.Enabled = false;
+        item.enableUnless(browser::needsTrial());
 }
 
 void mnuImages_Click(Panel &panel)
@@ -149,8 +150,10 @@ void mnuImages_Click(Panel &panel)
     if (browser::TestTrial(panel))
         return;
     browser::TrialFiles trial(panel);
-    for (size_t i = 0; i < AnimatedData.size(); ++i)
-        panel.frm.mnuSkelvo[i].Enabled = trial.has(AnimatedData[i]);
+    for (size_t i = 0; i < AnimatedData.size(); ++i) {
+        trial.has(AnimatedData[i]);
+        panel.frm.mnuSkelvo[i].enableUnless(trial.hindrance());
+    }
 }
 
 } // namespace launcher

@@ -18,6 +18,7 @@ void connectPrograms(Panel &panel)
     auto &frm = panel.frm;
     shell::connectItems(panel, frm.mnuProg, mnuProg_Click);
     frm.mnuProgs.Opening = [&panel] { mnuProgs_Click(panel); };
+    frm.mnuProgs.Passed = [&panel] { mnuProgs_Passed(panel); };
     frm.mnuProgs.AsksOnOpening = [&panel] { return mnuProgs_asks(panel); };
     frm.mnuProgs.OpensAfterAsking = true;
     frm.mnuOptions.Click = [&panel] { mnuOptions_Click(panel); };

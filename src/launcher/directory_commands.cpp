@@ -58,8 +58,8 @@ void makeSubdirectory(Panel &panel)
 void tellNotRemoved(Panel &panel, const QString &directory, const platform::RuntimeError &error)
 {
     // The box gives one reason for every failure; the status bar knows the true one.
-    shell::say(panel,
-               u"%1 was not removed: %2."_s.arg(platform::shortFormOf(directory), LCase(error.Description)));
+    shell::say(panel, u"%1 was not removed: %2."_s.arg(platform::shortFormOf(directory),
+                                                       platform::withinSentence(error.Description)));
     MsgBox(panel, {u"Directory, "_s + LCase(directory) + u", was not empty."_s + panel.frm.LineBreak
                        + u"It was not removed."_s,
                    Icon::Exclamation});

@@ -1,10 +1,13 @@
 #include "launcher/progress_chart.h"
 
 #include "averaging/averaging_menu.h"
+#include "browser/hindrances.h"
 #include "browser/trial_files.h"
 #include "data/models.h"
 #include "platform/letter_case.h"
 #include "shell/dispatch.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -65,10 +68,10 @@ bool offerModel(Panel &panel)
     return true;
 }
 
-void enable(Panel &panel, Item from, Item to, bool enabled)
+void enableUnless(Panel &panel, Item from, Item to, const QString &hindrance)
 {
     for (size_t i = from; i <= to; ++i)
-        panel.frm.mnuProg[i].Enabled = enabled;
+        panel.frm.mnuProg[i].enableUnless(hindrance);
 }
 
 void enableByFiles(Panel &panel, TrialFiles &trial)
@@ -76,21 +79,22 @@ void enableByFiles(Panel &panel, TrialFiles &trial)
     auto &items = panel.frm.mnuProg;
 
     const bool hasModel = trial.has(".cfb");
-    panel.frm.mnuOptions.Enabled = hasModel;
+    panel.frm.mnuOptions.enableUnless(trial.hindrance());
     if (!hasModel) {
         // The marks of Kinematics and Interact stay as they were; that is meant.
-        enable(panel, ErrorCheck, Simulate, false);
+        enableUnless(panel, ErrorCheck, Simulate, trial.hindrance());
         return;
     }
-    enable(panel, ErrorCheck, Kinematics, trial.has(".cn"));
+    trial.has(".cn");
+    enableUnless(panel, ErrorCheck, Kinematics, trial.hindrance());
     const bool hasKs = trial.has(".ks");
     const bool hasKm = trial.has(".km");
     items[Kinematics].Checked = hasKs || hasKm;
-    enable(panel, Momentum, Force, hasKm);
-    items[Powers].Enabled = hasKm && trial.hasEither(".fo", ".jp");
-    const bool hasSimulation = trial.has(".sim");
-    items[Interact].Checked = hasSimulation;
-    enable(panel, Interact, Simulate, hasSimulation);
+    enableUnless(panel, Momentum, Powers, trial.hindrance());
+    if (hasKm && !trial.hasEither(".fo", ".jp"))
+        items[Powers].enableUnless(browser::trialFilesHindrance(panel, u".fo"_s, u".jp"_s));
+    items[Interact].Checked = trial.has(".sim");
+    enableUnless(panel, Interact, Simulate, trial.hindrance());
 }
 
 void checkByResults(Panel &panel, TrialFiles &trial)
@@ -113,11 +117,24 @@ void checkByResults(Panel &panel, TrialFiles &trial)
 void mnuProgs_Click(Panel &panel)
 {
     averaging::enableAveraging(panel);
-    if (!offerModel(panel))
+    if (!offerModel(panel)) {
+        mnuProgs_Passed(panel);
         return;
+    }
     TrialFiles trial(panel);
     enableByFiles(panel, trial);
     checkByResults(panel, trial);
+}
+
+void mnuProgs_Passed(Panel &panel)
+{
+    // The items keep their states, but what greyed them may have been another directory's.
+    const auto tell = [](controls::MenuItem &item) {
+        if (!item.Enabled)
+            item.Hindrance = u"Needs a model (.CFB file) in this directory"_s;
+    };
+    std::for_each(panel.frm.mnuProg.begin(), panel.frm.mnuProg.end(), tell);
+    tell(panel.frm.mnuOptions);
 }
 
 bool mnuProgs_asks(const Panel &panel)

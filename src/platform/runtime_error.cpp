@@ -1,5 +1,7 @@
 #include "platform/runtime_error.h"
 
+#include "platform/letter_case.h"
+
 using namespace Qt::StringLiterals;
 
 namespace platform {
@@ -39,6 +41,11 @@ QString describe(ErrorNumber number)
         return u"Cancel was selected"_s;
     }
     return u"Unknown error"_s;
+}
+
+QString withinSentence(const QString &description)
+{
+    return LCase(description.left(1)) + description.mid(1);
 }
 
 RuntimeError::RuntimeError(ErrorNumber number, const QString &description)

@@ -28,6 +28,9 @@ enum class ErrorNumber : qint16 {
 /// The classic text of an error number, such as "File not found".
 QString describe(ErrorNumber number);
 
+/// The text of an error as it stands behind a colon: it begins with a small letter.
+QString withinSentence(const QString &description);
+
 /// What every call of the platform raises when it fails. A command catches it exactly where it has an error
 /// handler of its own; the dispatcher catches the rest.
 class RuntimeError : public std::exception

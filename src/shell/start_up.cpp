@@ -93,7 +93,8 @@ void chooseTextViewer(Panel &panel)
         kinovra.WindowsDir += u'\\';
     if (kinovra.TextViewer.isEmpty())
         kinovra.TextViewer = kinovra.WindowsDir + u"Notepad.exe"_s;
-    if (TestFile(panel, QString(), kinovra.TextViewer, Silent) != 0)
+    kinovra.Answer = TestFile(panel, QString(), kinovra.TextViewer, Silent);
+    if (kinovra.Answer != 0)
         kinovra.TextViewer = notepad(kinovra);
 }
 
@@ -125,12 +126,15 @@ void enableButtons(Panel &panel)
 {
     auto [kinovra, frm, platform] = panel.parts();
 
-    if (TestFile(panel, kinovra.ManualsDir, u"kv_qrg.pdf"_s, Silent) == 0)
-        frm.cmdGuide.Enabled = true;
-    if (TestFile(panel, kinovra.ManualsDir, u"kinovra.pdf"_s, Silent) == 0)
-        frm.cmdManual.Enabled = true;
-    if (TestFile(panel, kinovra.ProgDir, u"kinovra.txt"_s, Silent) == 0)
-        frm.cmdManual.Enabled = true;
+    const auto enableBy = [&panel](controls::Button &button, const QString &directory,
+                                   const QString &manual) {
+        panel.kinovra.Answer = TestFile(panel, directory, manual, Silent);
+        if (panel.kinovra.Answer == 0)
+            button.Enabled = true;
+    };
+    enableBy(frm.cmdGuide, kinovra.ManualsDir, u"kv_qrg.pdf"_s);
+    enableBy(frm.cmdManual, kinovra.ManualsDir, u"kinovra.pdf"_s);
+    enableBy(frm.cmdManual, kinovra.ProgDir, u"kinovra.txt"_s);
     for (controls::Button *button : {&frm.cmdOndex, &frm.cmdSkelvo, &frm.cmdEditor, &frm.cmdForces})
         button->Enabled = true;
 }

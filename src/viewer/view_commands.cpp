@@ -164,9 +164,10 @@ void mnuView_Click(Panel &panel, int index)
 
 void mnuViews_Click(Panel &panel)
 {
-    const bool hasForces = browser::TrialFiles(panel).hasByAnswer(".rf");
+    browser::TrialFiles trial(panel);
+    trial.hasByAnswer(".rf");
     for (controls::MenuItem &item : panel.frm.mnuForce)
-        item.Enabled = hasForces;
+        item.enableUnless(trial.hindrance());
 }
 
 } // namespace viewer

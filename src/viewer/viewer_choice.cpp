@@ -1,5 +1,6 @@
 #include "viewer/viewer_choice.h"
 
+#include "browser/hindrances.h"
 #include "browser/test_file.h"
 #include "platform/letter_case.h"
 #include "platform/runtime_error.h"
@@ -31,7 +32,8 @@ void selectViewer(Panel &panel)
                                                       .title = u"Select a text viewer."_s});
         kinovra.TextViewer = chosen.value_or(kinovra.TextViewer);
     } catch (const platform::RuntimeError &error) {
-        shell::say(panel, u"No text viewer was chosen: %1."_s.arg(platform::LCase(error.Description)));
+        shell::say(panel,
+                   u"No text viewer was chosen: %1."_s.arg(platform::withinSentence(error.Description)));
     }
 }
 
@@ -42,7 +44,8 @@ void mnuTextViewers_Click(Panel &panel)
     auto [kinovra, frm, platform] = panel.parts();
 
     kinovra.Answer = browser::TestFile(panel, kinovra.ProgDir, u"notepad.exe"_s, browser::Silent);
-    frm.mnuTextViewer[NotepadPlus].Enabled = kinovra.Answer == 0;
+    frm.mnuTextViewer[NotepadPlus].enableUnless(
+        browser::fileHindrance(u"notepad.exe"_s, u"the program directory"_s, kinovra.Answer));
 }
 
 void mnuTextViewer_Click(Panel &panel, int index)

@@ -1,7 +1,7 @@
 #include "views/classic_list.h"
 
+#include "views/plain_text.h"
 #include "views/row_delegate.h"
-#include "views/tool_tips.h"
 
 #include <QEvent>
 #include <QHelpEvent>

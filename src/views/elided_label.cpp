@@ -1,6 +1,6 @@
 #include "views/elided_label.h"
 
-#include "views/tool_tips.h"
+#include "views/plain_text.h"
 
 #include <QEvent>
 #include <QHelpEvent>

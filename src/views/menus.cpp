@@ -1,11 +1,17 @@
 #include "views/menus.h"
 
+#include "platform/display_text.h"
+#include "views/plain_text.h"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPainter>
+#include <QProxyStyle>
 #include <QScopedValueRollback>
+#include <QStyleOption>
 #include <QTimer>
 
 #include <chrono>
@@ -18,6 +24,33 @@ namespace views {
 namespace {
 
 constexpr std::chrono::milliseconds Rest{400};
+
+/// Lets greyed items be pointed at, with the keyboard too, so that they can say why they are greyed.
+class GreyedItemsCanBePointedAt : public QProxyStyle
+{
+public:
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *returned) const override
+    {
+        return hint == SH_Menu_AllowActiveAndDisabled
+                   ? 1
+                   : QProxyStyle::styleHint(hint, option, widget, returned);
+    }
+
+    // Most styles do not show which greyed item is pointed at.
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override
+    {
+        const bool isGreyed = !option->state.testFlag(State_Enabled);
+        if (element == CE_MenuItem && isGreyed && option->state.testFlag(State_Selected)) {
+            QColor shade = option->palette.color(QPalette::Active, QPalette::Highlight);
+            constexpr int Faint = 50;
+            shade.setAlpha(Faint);
+            painter->fillRect(option->rect, shade);
+        }
+        QProxyStyle::drawControl(element, option, painter, widget);
+    }
+};
 
 QChar accessKey(const QString &caption)
 {
@@ -36,8 +69,14 @@ void closeMenus()
 }
 
 Menus::Menus(QMenuBar *bar, EventRunner &events, std::vector<MenuLine> lines)
-    : QObject(bar), bar_(bar), events_(events), lines_(std::move(lines)), rest_(new QTimer(this))
+    : QObject(bar)
+    , bar_(bar)
+    , events_(events)
+    , lines_(std::move(lines))
+    , style_(new GreyedItemsCanBePointedAt)
+    , rest_(new QTimer(this))
 {
+    style_->setParent(this);
     rest_->setObjectName(u"rest"_s);
     rest_->setSingleShot(true);
     rest_->setInterval(Rest);
@@ -94,6 +133,11 @@ void Menus::bind(QAction *action, controls::MenuItem &item)
     bindings_.follow(item.Caption, [action, &item] { action->setText(item.Caption); });
     bindings_.follow(item.Visible, [action, &item] { action->setVisible(item.Visible); });
     bindings_.follow(item.Enabled, [action, &item] { action->setEnabled(item.Enabled); });
+    bindings_.follow(item.Hindrance, [action, &item] {
+        const QString hindrance = platform::displayText(item.Hindrance);
+        action->setStatusTip(hindrance);
+        action->setToolTip(hindrance.isEmpty() ? QString() : plainToolTip(hindrance));
+    });
     bindings_.follow(item.Checked, [action, &item] {
         if (item.Checked)
             action->setCheckable(true);
@@ -105,6 +149,8 @@ void Menus::bindMenu(QMenu *menu, size_t menuLine)
 {
     controls::MenuItem &item = *lines_[menuLine].item;
     bind(menu->menuAction(), item);
+    menu->setToolTipsVisible(true);
+    menu->setStyle(style_);
     connect(menu, &QMenu::aboutToShow, this, [this, menu, menuLine, &item] {
         if (menu->isEmpty())
             fill(menu, menuLine);

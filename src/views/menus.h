@@ -10,6 +10,7 @@
 class QAction;
 class QMenu;
 class QMenuBar;
+class QStyle;
 class QTimer;
 
 namespace views {
@@ -52,6 +53,7 @@ private:
     const std::vector<MenuLine> lines_;
     Bindings bindings_;
     QString accessKeys_;
+    QStyle *style_;            ///< of the menus
     QTimer *rest_;             ///< until a submenu that has opened is meant
     QMenu *submenu_ = nullptr; ///< that submenu
     controls::MenuItem *submenuItem_ = nullptr;

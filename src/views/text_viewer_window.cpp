@@ -3,6 +3,7 @@
 #include "platform/display_text.h"
 #include "views/find_bar.h"
 #include "views/menus.h"
+#include "views/plain_text.h"
 #include "views/text_page.h"
 #include "views/twips.h"
 
@@ -111,7 +112,8 @@ void TextViewerWindow::bindText()
 
 void TextViewerWindow::bindWindow()
 {
-    bindings_.follow(frm_.Caption, [this] { setWindowTitle(platform::displayText(frm_.Caption)); });
+    bindings_.follow(frm_.Caption,
+                     [this] { setWindowTitle(plainTitle(platform::displayText(frm_.Caption))); });
     const auto place = [this] {
         const QScreen *screen = QGuiApplication::primaryScreen();
         const QPoint origin = screen ? screen->geometry().topLeft() : QPoint();

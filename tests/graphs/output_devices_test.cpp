@@ -76,6 +76,15 @@ TEST_F(OutputDevices, of_listings_clear_the_graphics_switch_and_say_so)
     EXPECT_EQ(frm.GraphicsSwitch, QString());
 }
 
+TEST_F(OutputDevices, of_graphics_withdraw_that_the_switch_is_cleared_and_no_more)
+{
+    click(frm.mnuListing[0]);
+    shell::sayToo(panel, u"The binary file is Run1 now."_s);
+    EXPECT_EQ(said(), u"Graphics switch cleared. The binary file is Run1 now."_s);
+    click(frm.mnuGraphics[0]);
+    EXPECT_EQ(said(), u"The binary file is Run1 now."_s);
+}
+
 TEST_F(OutputDevices, are_reached_through_their_items)
 {
     for (size_t i = 0; i < 4; ++i) {

@@ -6,6 +6,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QSignalSpy>
+#include <QStatusBar>
 #include <QTest>
 #include <QTimer>
 
@@ -100,6 +101,42 @@ TEST_F(MenuViews, follow_the_items)
     EXPECT_FALSE(kinematics->isChecked());
     frm.mnuProg[3].Visible = false;
     EXPECT_FALSE(kinematics->isVisible());
+}
+
+TEST_F(MenuViews, say_why_an_item_is_greyed)
+{
+    renderedTree();
+    QMenu *programs = menu(u"&Programs"_s);
+    QAction *kinematics = action(programs, u"&Kinematics"_s);
+    EXPECT_TRUE(programs->toolTipsVisible());
+    frm.mnuProg[3].enableUnless(u"Needs <WALK1>.CN"_s);
+    EXPECT_EQ(kinematics->statusTip(), u"Needs <WALK1>.CN"_s);
+    EXPECT_EQ(kinematics->toolTip(), u"<span>Needs &lt;WALK1&gt;.CN</span>"_s);
+    frm.mnuProg[3].enableUnless(QString());
+    EXPECT_TRUE(kinematics->isEnabled());
+    EXPECT_EQ(kinematics->statusTip(), QString());
+    EXPECT_EQ(kinematics->toolTip(), u"Kinematics"_s) << "Qt's word for none";
+}
+
+TEST_F(MenuViews, say_it_in_the_status_bar_while_the_item_is_pointed_at)
+{
+    frm.StatusBar1.Panel1 = u"Kinemati.out is ready."_s;
+    openFromBar(u"&Data"_s);
+    QMenu *data = menu(u"&Data"_s);
+    QAction *scale = action(data, u"&Scale/Refine data (Refila)"_s);
+    ASSERT_FALSE(scale->isEnabled());
+    QTest::keyClick(data, Qt::Key_Down);
+    QTest::keyClick(data, Qt::Key_Down);
+    EXPECT_EQ(data->activeAction(), scale);
+    settle();
+    EXPECT_EQ(window().statusBar()->currentMessage(),
+              u"Needs a current trial: click on a data file or a model first"_s);
+    QTest::keyClick(data, Qt::Key_Return);
+    EXPECT_TRUE(machine.programs.started.empty());
+    data->close();
+    settle();
+    EXPECT_EQ(window().statusBar()->currentMessage(), QString());
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"Kinemati.out is ready."_s);
 }
 
 TEST_F(MenuViews, run_the_items)
