@@ -136,7 +136,7 @@ int runPanel(QApplication &application)
 {
     const QTemporaryDir settings;
     BenchPanel bench(settings.path());
-    views::PanelWindows windows(bench.panel());
+    views::PanelWindows windows(bench.panel(), bench.files());
     QMetaObject::invokeMethod(
         &application, [&windows] { windows.load(); }, Qt::QueuedConnection);
     return application.exec();

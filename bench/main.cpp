@@ -40,7 +40,7 @@ std::array<controls::FileList *, 5> lists(shell::frmKinovra &frm)
 struct Scene
 {
     explicit Scene(LargeDirectory::Kind kind)
-        : large(kind, Files), bench(settings.path()), windows(bench.panel())
+        : large(kind, Files), bench(settings.path()), windows(bench.panel(), bench.files())
     {
         bench.panel().frm.Visible = true;
         browser::openDirectory(bench.panel(), bench.files().adopt(QByteArray::fromStdString(large.path())));

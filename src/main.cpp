@@ -30,7 +30,7 @@ int main(int argc, char *argv[])
 
     shell::Panel panel(machine);
     shell::connectRooms(panel);
-    views::PanelWindows windows(panel);
+    views::PanelWindows windows(panel, host->paths());
     QMetaObject::invokeMethod(
         &windows.mainWindow(), [&windows] { windows.load(); }, Qt::QueuedConnection);
     return QApplication::exec();

@@ -1,6 +1,7 @@
 #include "browser/directories.h"
 
 #include "browser/current_trial.h"
+#include "browser/dropped_files.h"
 #include "browser/file_lists.h"
 #include "browser/result_files.h"
 #include "platform/letter_case.h"
@@ -109,6 +110,8 @@ void connect(Panel &panel)
     auto &frm = panel.frm;
     frm.drvDrives.Change = [&panel] { drvDrives_Change(panel); };
     frm.dirSelect.OpenRow = [&panel](int row) { openRow(panel, row); };
+    frm.Returned = [&panel] { readChangedDirectories(panel); };
+    frm.FileDropped = [&panel](const QString &path) { fileDropped(panel, path); };
     frm.cmdRefresh.Click = [&panel] { cmdRefresh_Click(panel); };
     frm.filDatafiles.Click = [&panel] { filDatafiles_Click(panel); };
     frm.filModels.Click = [&panel] { filModels_Click(panel); };

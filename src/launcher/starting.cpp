@@ -1,5 +1,6 @@
 #include "launcher/starting.h"
 
+#include "browser/file_lists.h"
 #include "platform/path_language.h"
 #include "shell/dispatch.h"
 
@@ -49,7 +50,9 @@ QString endingText(const RunningProgram &program, const Ending &ending)
     if (ending.kind == Ending::Kind::TerminalFailed)
         return u"%1 may not have run: its terminal failed."_s.arg(program.name);
     if (ending.code != 0)
-        return u"%1 ended with error %2."_s.arg(program.name, QString::number(ending.code));
+        return u"%1 ended with error %2."_s.arg(
+            program.name,
+            QString::number(ending.code) + (ending.reason.isEmpty() ? QString() : u": "_s) + ending.reason);
     return {};
 }
 
@@ -166,7 +169,9 @@ void programEnded(Panel &panel, double value, const Ending &ending)
     const QString error = endingText(program, ending);
     if (!error.isEmpty())
         shell::say(panel, error);
-    else if (listingIsNew(panel, program))
+    else if (program.isProgram)
+        browser::refreshResultLists(panel);
+    if (error.isEmpty() && listingIsNew(panel, program))
         shell::say(panel, u"%1 is ready."_s.arg(platform::nameOf(program.listing)));
 }
 

@@ -79,6 +79,9 @@ struct frmKinovra : controls::Window
     controls::MenuArray<19> mnuHelpItem;
     controls::MenuArray<4> mnuAbout;
 
+    controls::Event Returned; ///< the user comes back from another window
+    std::function<void(const QString &path)> FileDropped;
+
     QString CurrentGRA;         ///< graph-type file
     QString GraphicsSwitch;     ///< switches of the graphics device for the graph programs
     QString StartDir;           ///< current directory at start, restored at the end

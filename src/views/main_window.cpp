@@ -2,6 +2,7 @@
 
 #include "platform/display_text.h"
 #include "shell/menu_tree.h"
+#include "views/copyable_text.h"
 #include "views/directory_list_view.h"
 #include "views/drive_box.h"
 #include "views/elided_label.h"
@@ -13,17 +14,22 @@
 #include "views/twips.h"
 
 #include <QCloseEvent>
+#include <QDragEnterEvent>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QStatusBar>
+#include <QUrl>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <chrono>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -38,6 +44,8 @@ constexpr int DirectoryColumn = 170;
 constexpr int UsualHeight = 9000;
 /// What a desktop puts around a window, in pixels.
 constexpr int TitleHeight = 40;
+/// A click that brings the window back aims at what it showed before; what has changed follows after it.
+constexpr std::chrono::milliseconds AimsAtOldPicture{300};
 
 /// A caption without the "&" of its access key, as it is spoken.
 QString spoken(const QString &caption)
@@ -69,6 +77,15 @@ QLabel *makeCaption(const QString &text, QWidget *value)
     return label;
 }
 
+// The first file of this computer in what is dragged; empty where there is none.
+QString droppedFile(const QMimeData &data)
+{
+    const QList<QUrl> addresses = data.urls();
+    const auto file = std::find_if(addresses.begin(), addresses.end(),
+                                   [](const QUrl &address) { return address.isLocalFile(); });
+    return file == addresses.end() ? QString() : file->toLocalFile();
+}
+
 std::vector<MenuLine> menuLines(shell::frmKinovra &frm)
 {
     std::vector<MenuLine> lines;
@@ -79,9 +96,13 @@ std::vector<MenuLine> menuLines(shell::frmKinovra &frm)
 
 } // namespace
 
-MainWindow::MainWindow(EventRunner &events)
-    : events_(events), frm_(events.panel().frm), activation_(this, [this] { events_.run(frm_.Activate); })
+MainWindow::MainWindow(EventRunner &events, platform::HostPaths &paths)
+    : events_(events), paths_(paths), frm_(events.panel().frm), activation_(this, [this] { activated(); })
 {
+    setAcceptDrops(true);
+    returned_.setSingleShot(true);
+    returned_.setInterval(AimsAtOldPicture);
+    returned_.callOnTimeout(this, [this] { events_.run(frm_.Returned); });
     setMenuBar(new QMenuBar);
     // The desktop's own bar could not close its menus before a question and open them again.
     menuBar()->setNativeMenuBar(false);
@@ -211,7 +232,7 @@ QWidget *MainWindow::makeChosen()
     prominent.setBold(true);
     trial->setFont(prominent);
     addChosen(grid, 1, 0, u"Title:"_s, frm_.lblTitle);
-    addChosen(grid, 2, 0, u"Command line:"_s, frm_.lblCommand);
+    addCommand(grid, 2, 0);
     addChosen(grid, 0, 2, u"GRA(ph) file:"_s, frm_.lblGraphics[0]);
     addChosen(grid, 1, 2, u"Listing to:"_s, frm_.lblOutput);
     addChosen(grid, 2, 2, u"Graphics to:"_s, frm_.lblGraphics[1]);
@@ -228,6 +249,19 @@ QWidget *MainWindow::addChosen(QGridLayout *grid, int row, int column, const QSt
     grid->addWidget(makeCaption(caption, widget), row, column);
     grid->addWidget(widget, row, column + 1);
     return widget;
+}
+
+// Users paste the command line into a terminal or a report.
+void MainWindow::addCommand(QGridLayout *grid, int row, int column)
+{
+    auto *command = new CopyableText;
+    controls::Label &label = frm_.lblCommand;
+    command->setAccessibleName(u"Command line"_s);
+    bindings_.bind(static_cast<QWidget *>(command), label);
+    bindings_.follow(label.Caption,
+                     [command, &label] { command->show(platform::displayText(label.Caption)); });
+    grid->addWidget(makeCaption(u"Command line:"_s, command), row, column);
+    grid->addWidget(command, row, column + 1);
 }
 
 QLayout *MainWindow::makeButtons()
@@ -332,6 +366,33 @@ bool MainWindow::event(QEvent *event)
     if (event->type() == QEvent::ApplicationFontChange)
         fitFont();
     return handled;
+}
+
+void MainWindow::activated()
+{
+    events_.run(frm_.Activate);
+    if (std::exchange(wasActive_, true))
+        returned_.start();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (droppedFile(*event->mimeData()).isEmpty())
+        return;
+    // Never a move: the file stays where it is.
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+}
+
+// Where it comes from waits until this returns, so that no box may be shown before.
+void MainWindow::dropEvent(QDropEvent *event)
+{
+    const QString file = droppedFile(*event->mimeData());
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    QMetaObject::invokeMethod(
+        this, [this, file] { events_.run([this, file] { frm_.FileDropped(paths_.panelForm(file)); }); },
+        Qt::QueuedConnection);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

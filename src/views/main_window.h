@@ -1,10 +1,12 @@
 #pragma once
 
+#include "platform/host_paths.h"
 #include "shell/main_window.h"
 #include "views/activation.h"
 #include "views/bindings.h"
 
 #include <QMainWindow>
+#include <QTimer>
 
 class QGridLayout;
 class QPushButton;
@@ -22,7 +24,7 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    explicit MainWindow(EventRunner &events);
+    MainWindow(EventRunner &events, platform::HostPaths &paths);
 
     /// Loads the window: the panel starts.
     void load();
@@ -30,6 +32,8 @@ public:
 protected:
     bool event(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
@@ -44,17 +48,22 @@ private:
     void addList(QGridLayout *grid, int row, int column, FileListView *view, controls::Label &caption);
     QWidget *addChosen(QGridLayout *grid, int row, int column, const QString &caption,
                        controls::Label &value);
+    void addCommand(QGridLayout *grid, int row, int column);
     QPushButton *makeButton(controls::Button &button);
     void bindWindow();
+    void activated();
     void fitFont();
     void useFont(const QFont &font);
     bool fits() const;
     void leaveAccessKeysToMenus();
 
     EventRunner &events_;
+    platform::HostPaths &paths_;
     shell::frmKinovra &frm_;
     Bindings bindings_;
     Activation activation_;
+    bool wasActive_ = false;
+    QTimer returned_; ///< until what has changed meanwhile is read
     Menus *menus_;
     FileListView *datafiles_ = nullptr;
     QList<QPushButton *> buttons_;

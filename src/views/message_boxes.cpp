@@ -4,6 +4,7 @@
 #include "shell/kinovra.h"
 #include "views/main_window.h"
 #include "views/menus.h"
+#include "views/plain_text.h"
 #include "views/printer_set_up.h"
 
 #include <QApplication>
@@ -155,7 +156,7 @@ std::optional<QString> MessageBoxes::input(const platform::InputBox &box)
 {
     closeMenus();
     QInputDialog window(owner());
-    window.setWindowTitle(box.title);
+    window.setWindowTitle(plainTitle(box.title));
     // Its "&" would be an access key.
     window.setLabelText(shown(box.prompt).replace(u'&', u"&&"_s));
     // It would take a directory's name for mark-up, and grow with every path.
@@ -215,8 +216,7 @@ void MessageBoxes::setFilters(QFileDialog &dialog, const QString &filter, int in
         parts = {filter, filter};
     QStringList filters;
     for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
-        const QString text = QString(parts[i]).replace(u"&&"_s, u"&"_s);
-        filters.append(text + u" ("_s + paths_.anyCase(parts[i + 1]).replace(u';', u' ') + u')');
+        filters.append(parts[i] + u" ("_s + paths_.anyCase(parts[i + 1]).replace(u';', u' ') + u')');
     }
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setNameFilters(filters);

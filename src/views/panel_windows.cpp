@@ -23,7 +23,8 @@ controls::Screen screenOf()
 
 } // namespace
 
-PanelWindows::PanelWindows(shell::Panel &panel) : events_(panel), mainWindow_(events_)
+PanelWindows::PanelWindows(shell::Panel &panel, platform::HostPaths &paths)
+    : events_(panel), mainWindow_(events_, paths)
 {
     panel.screen = screenOf();
     const auto onFirstShowing = [this](controls::Window &window, const std::function<void()> &make) {

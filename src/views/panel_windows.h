@@ -15,7 +15,7 @@ namespace views {
 class PanelWindows
 {
 public:
-    explicit PanelWindows(shell::Panel &panel);
+    PanelWindows(shell::Panel &panel, platform::HostPaths &paths);
 
     /// Loads the main window: the panel starts.
     void load();

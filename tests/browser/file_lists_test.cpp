@@ -117,6 +117,49 @@ TEST_F(FileLists, refreshed_read_each_directory_once)
     EXPECT_EQ(machine.clock.pendingRuns, 1);
 }
 
+TEST_F(FileLists, refreshed_show_each_its_own_directory)
+{
+    addFile(u"C:\\Trials\\b.km"_s);
+    browser::pointAt(panel, frm.filBinaries, u"C:\\Trials"_s);
+    click(frm.cmdRefresh);
+    EXPECT_EQ(frm.filBinaries.Path(), u"C:\\Trials"_s);
+    EXPECT_EQ(frm.filBinaries.Names.value().toList(), QStringList{u"b.km"_s});
+    addFile(u"C:\\Trials\\c.km"_s);
+    browser::refreshResultLists(panel);
+    EXPECT_EQ(frm.filBinaries.Names.value().toList(), (QStringList{u"b.km"_s, u"c.km"_s}));
+}
+
+TEST_F(FileLists, show_what_has_changed_when_the_user_comes_back)
+{
+    click(frm.filDatafiles, u"RUN1.DG"_s);
+    forget();
+    addData({"new.dg", "new.cfb", "new.km", "new.plt", "new.out"});
+    addFile(u"C:\\KINOVRA\\graphs\\NEW.GRA"_s);
+    addFile(u"C:\\DATA\\Below\\x.txt"_s);
+    mark();
+    const std::initializer_list<controls::FileList *> lists{&frm.filDatafiles, &frm.filModels,
+                                                            &frm.filBinaries,  &frm.filPlots,
+                                                            &frm.filOutputs,   &frm.filGraFiles};
+    for (controls::FileList *list : lists)
+        list->Click = [] { ADD_FAILURE() << "no handler runs"; };
+    shell::dispatch(panel, frm.Returned);
+    for (controls::FileList *list : lists)
+        EXPECT_GE(list->Names.value().toList().filter(u"new."_s, Qt::CaseInsensitive).size(), 1);
+    EXPECT_EQ(frm.dirSelect.RowText(frm.dirSelect.RowCount() - 1), u"Below"_s);
+    EXPECT_EQ(frm.filDatafiles.FileName(), u"RUN1.DG"_s);
+    expectMarkedBut({});
+    EXPECT_THAT(messages(), IsEmpty());
+}
+
+TEST_F(FileLists, are_empty_when_the_user_comes_back_to_a_directory_that_is_gone)
+{
+    machine.files.remove(u"C:\\DATA"_s);
+    shell::dispatch(panel, frm.Returned);
+    EXPECT_EQ(frm.filDatafiles.ListCount(), 0);
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"DATA cannot be read: path not found."_s);
+    EXPECT_THAT(messages(), IsEmpty());
+}
+
 TEST_F(FileLists, refreshed_bring_the_graph_buttons_back_while_no_graph_type_is_being_chosen)
 {
     for (auto *button : {&frm.cmdGraph, &frm.cmdSelectGra, &frm.cmdEditGra})

@@ -401,6 +401,38 @@ TEST_F(ProgramEnds, with_an_error_and_the_status_bar_says_so)
     EXPECT_EQ(said(), u"KINEMATI.EXE ended with error 3."_s);
 }
 
+TEST_F(ProgramEnds, with_an_error_that_the_system_explains)
+{
+    run();
+    end({Ending::Kind::Exited, 127, u"a library may be missing"_s});
+    EXPECT_EQ(said(), u"KINEMATI.EXE ended with error 127: a library may be missing."_s);
+}
+
+TEST_F(ProgramEnds, well_and_its_results_are_listed)
+{
+    addData({"a.km", "b.plt"});
+    click(frm.cmdRefresh);
+    run();
+    frm.filBinaries.ListIndex = 0;
+    addData({"Walk1.km", "Kinemati.out", "Walk1.plt", "walk2.dg", "a.fr"});
+    bool clicked = false;
+    frm.filBinaries.Click = [&clicked] { clicked = true; };
+    end({});
+    EXPECT_EQ(frm.filBinaries.Names.value().toList(), (QStringList{u"a.fr"_s, u"a.km"_s, u"Walk1.km"_s}));
+    EXPECT_EQ(frm.filBinaries.FileName(), u"a.km"_s);
+    EXPECT_EQ(frm.filOutputs.Names.value().toList(), QStringList{u"Kinemati.out"_s});
+    EXPECT_EQ(frm.filPlots.Names.value().toList(), (QStringList{u"b.plt"_s, u"Walk1.plt"_s}));
+    EXPECT_FALSE(clicked);
+}
+
+TEST_F(ProgramEnds, with_an_error_and_the_lists_stay)
+{
+    run();
+    addData({"Walk1.km"});
+    end({Ending::Kind::Exited, 1});
+    EXPECT_EQ(frm.filBinaries.ListCount(), 0);
+}
+
 TEST_F(ProgramEnds, by_a_crash_and_the_status_bar_says_so)
 {
     run();

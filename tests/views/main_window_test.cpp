@@ -3,15 +3,20 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
+#include <QDragEnterEvent>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QSet>
 #include <QStatusBar>
 #include <QTest>
 #include <QToolTip>
+#include <QUrl>
 
 using namespace Qt::StringLiterals;
 using support::waitUntil;
@@ -39,6 +44,30 @@ protected:
     QLabel *value(const QString &caption) const
     {
         return qobject_cast<QLabel *>(labelThatReads(caption)->buddy());
+    }
+
+    QLineEdit *commandLine() const
+    {
+        return qobject_cast<QLineEdit *>(labelThatReads(u"Command line:"_s)->buddy());
+    }
+
+    // Whether the window takes what is dropped.
+    bool drop(const QList<QUrl> &addresses)
+    {
+        QMimeData data;
+        data.setUrls(addresses);
+        QDragEnterEvent entering(QPoint(300, 200), Qt::MoveAction | Qt::CopyAction, &data, Qt::LeftButton,
+                                 Qt::NoModifier);
+        entering.ignore();
+        QApplication::sendEvent(&window(), &entering);
+        if (!entering.isAccepted())
+            return false;
+        EXPECT_EQ(entering.dropAction(), Qt::CopyAction);
+        QDropEvent dropping(QPoint(300, 200), Qt::MoveAction | Qt::CopyAction, &data, Qt::LeftButton,
+                            Qt::NoModifier);
+        QApplication::sendEvent(&window(), &dropping);
+        EXPECT_EQ(dropping.dropAction(), Qt::CopyAction) << "the file stays where it is";
+        return dropping.isAccepted();
     }
 
     static QString toolTipAt(QWidget *widget, const QPoint &position)
@@ -84,7 +113,7 @@ using StartView = support::ViewFixture;
 TEST_F(StartView, makes_the_main_window_appear_and_no_control_beside_it)
 {
     WindowWatch watch;
-    windows = std::make_unique<views::PanelWindows>(panel);
+    windows = std::make_unique<views::PanelWindows>(panel, paths);
     EXPECT_TRUE(watch.appeared.isEmpty());
     windows->load();
     settle();
@@ -134,7 +163,66 @@ TEST_F(MainWindowView, shows_the_state)
     EXPECT_EQ(value(u"Listing to:"_s)->text(), u"DISK FILE"_s);
     EXPECT_EQ(value(u"Graphics to:"_s)->text(), u"SCREEN"_s);
     frm.lblCommand.Caption = u"c:\\kinovra\\kinemati.exe walk1"_s;
-    EXPECT_EQ(value(u"Command line:"_s)->text(), u"c:\\kinovra\\kinemati.exe walk1"_s);
+    EXPECT_EQ(commandLine()->text(), u"c:\\kinovra\\kinemati.exe walk1"_s);
+    frm.lblCommand.Visible = false;
+    EXPECT_FALSE(commandLine()->isVisible());
+}
+
+TEST_F(MainWindowView, lets_the_command_line_be_copied)
+{
+    frm.lblCommand.Caption = u"c:\\kinovra\\kinemati.exe /t walk1"_s;
+    QTest::mouseDClick(commandLine(), Qt::LeftButton, {}, QPoint(2, commandLine()->height() / 2));
+    QTest::keyClick(commandLine(), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(commandLine(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), u"c:\\kinovra\\kinemati.exe /t walk1"_s);
+    QTest::keyClicks(commandLine(), u"x"_s);
+    QTest::keyClick(commandLine(), Qt::Key_Delete);
+    EXPECT_EQ(commandLine()->text(), u"c:\\kinovra\\kinemati.exe /t walk1"_s) << "it is not changed";
+}
+
+TEST_F(MainWindowView, shows_a_long_command_line_from_its_beginning)
+{
+    frm.lblCommand.Caption = u"short"_s;
+    EXPECT_EQ(toolTipAt(commandLine(), QPoint(5, 5)), QString());
+    frm.lblCommand.Caption = u"c:\\kinovra\\kinemati.exe "_s + QString(300, u'w');
+    EXPECT_EQ(commandLine()->cursorPosition(), 0);
+    EXPECT_TRUE(toolTipAt(commandLine(), QPoint(5, 5)).contains(QString(300, u'w')));
+}
+
+TEST_F(MainWindowView, chooses_a_file_that_is_dropped)
+{
+    addFile(u"Z:\\Trials\\jump1.dg"_s, "A jump\n");
+    machine.files.addDrive(u"z:"_s);
+    EXPECT_TRUE(drop({QUrl(u"https://example.org/a.dg"_s), QUrl::fromLocalFile(u"/Trials/jump1.dg"_s)}));
+    EXPECT_EQ(kinovra.CurrentTrial, QString()) << "not before the drop is over";
+    settle();
+    EXPECT_EQ(kinovra.CurrentTrial, u"jump1"_s);
+    EXPECT_EQ(kinovra.DataDir, u"Z:\\Trials"_s);
+    EXPECT_EQ(value(u"Title:"_s)->text(), u"A jump "_s);
+}
+
+TEST_F(MainWindowView, takes_nothing_but_files_of_this_computer)
+{
+    EXPECT_FALSE(drop({}));
+    EXPECT_FALSE(drop({QUrl(u"https://example.org/a.dg"_s)}));
+    EXPECT_FALSE(commandLine()->acceptDrops());
+}
+
+TEST_F(MainWindowView, reads_again_what_has_changed_once_the_user_is_back)
+{
+    click(frm.filDatafiles, u"walk1.dg"_s);
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    addData({"jump1.dg", "jump1.km"});
+    window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+    EXPECT_EQ(frm.filDatafiles.ListCount(), 1) << "a click that is on its way aims at the old picture";
+    EXPECT_TRUE(waitUntil([this] { return frm.filDatafiles.ListCount() == 2; }));
+    EXPECT_EQ(frm.filBinaries.ListCount(), 1);
+    EXPECT_EQ(frm.filDatafiles.FileName(), u"walk1.dg"_s);
+    EXPECT_EQ(kinovra.CurrentTrial, u"walk1"_s);
 }
 
 TEST_F(MainWindowView, shows_text_as_text)
@@ -252,9 +340,9 @@ TEST_F(MainWindowView, lets_everything_be_reached_by_tab)
     }
     EXPECT_EQ(reached, (QStringList{u"Data files"_s, u"Models (.CFB)"_s, u"Binary files"_s, u"Output files"_s,
                                     u"Graphs (.PLT)"_s, u"Select Type of  Graph"_s, u"Create Graph(s)"_s,
-                                    u"Edit .GRA File"_s, u"Refresh File Lists"_s, u".CFB Editor"_s,
-                                    u"Force Plate Analysis"_s, u"Skelvo"_s, u"Ondex2"_s, u"Exit"_s,
-                                    u"Drive"_s, u"Directory"_s}));
+                                    u"Edit .GRA File"_s, u"Command line"_s, u"Refresh File Lists"_s,
+                                    u".CFB Editor"_s, u"Force Plate Analysis"_s, u"Skelvo"_s, u"Ondex2"_s,
+                                    u"Exit"_s, u"Drive"_s, u"Directory"_s}));
 }
 
 TEST_F(MainWindowView, begins_with_the_focus_on_the_data_files)
@@ -454,7 +542,7 @@ TEST_F(MainWindowFonts, of_any_size_let_all_captions_fit)
          {inPoints(7), inPoints(9), inPoints(11), inPoints(14), inPoints(20), inPixels(30)}) {
         QApplication::setFont(font);
         windows = nullptr;
-        windows = std::make_unique<views::PanelWindows>(panel);
+        windows = std::make_unique<views::PanelWindows>(panel, paths);
         panel.frm.Visible = true;
         expectThatCaptionsFit(font);
     }

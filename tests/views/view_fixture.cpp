@@ -10,7 +10,7 @@ namespace support {
 
 void ViewFixture::show()
 {
-    windows = std::make_unique<views::PanelWindows>(panel);
+    windows = std::make_unique<views::PanelWindows>(panel, paths);
     windows->load();
     panel.about.Visible = false;
     settle();

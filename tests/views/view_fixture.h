@@ -1,6 +1,7 @@
 #pragma once
 
 #include "panel_fixture.h"
+#include "platform/host_paths.h"
 #include "views/panel_windows.h"
 
 #include <QListView>
@@ -9,6 +10,24 @@
 #include <memory>
 
 namespace support {
+
+/// Takes the host's paths for the panel's, with another separator.
+class PlainPaths : public platform::HostPaths
+{
+public:
+    QString hostForm(const QString &directory) override
+    {
+        return QString(directory).mid(2).replace(u'\\', u'/');
+    }
+    QString panelForm(const QString &hostFile) override
+    {
+        return QLatin1String("Z:") + QString(hostFile).replace(u'/', u'\\');
+    }
+    QString anyCase(const QString &pattern) const override
+    {
+        return QString(pattern).replace(u'e', QLatin1String("[eE]"));
+    }
+};
 
 /// The panel on the recording platform with its real windows, on no screen.
 class ViewFixture : public PanelFixture
@@ -37,6 +56,7 @@ protected:
 
     views::MainWindow &window() const { return windows->mainWindow(); }
 
+    PlainPaths paths;
     std::unique_ptr<views::PanelWindows> windows;
 };
 
