@@ -1,5 +1,5 @@
 # Puts the practice package together:
-# cmake -DPROGRAM=... -DNAMES=... -DSOURCE=... -DPACKAGE=... [-DSTRIP=...] -P this file
+# cmake -DPROGRAM=... -DNAMES=... -DSOURCE=... -DPACKAGE=... [-DMANUALS=...] [-DSTRIP=...] -P this file
 
 # A program or text is copied when its original is newer, so that one changed in the package stays until then.
 # The old one goes first: a program may be running, and a link must not lead out of the package.
@@ -34,6 +34,14 @@ endforeach()
 file(GLOB graph_types RELATIVE "${SOURCE}/graphs" "${SOURCE}/graphs/*.GRA")
 foreach(graph_type IN LISTS graph_types)
   refresh("${SOURCE}/graphs/${graph_type}" "${PACKAGE}/graphs/${graph_type}")
+endforeach()
+
+if(MANUALS)
+  file(MAKE_DIRECTORY "${PACKAGE}/manuals")
+endif()
+foreach(manual IN LISTS MANUALS)
+  get_filename_component(name "${manual}" NAME)
+  refresh("${manual}" "${PACKAGE}/manuals/${name}")
 endforeach()
 
 # A trial belongs to its user as soon as it is there.

@@ -121,6 +121,18 @@ TEST(Package, holdsGraphTypesThatSayWhatTheyDraw)
     }
 }
 
+TEST(Package, holdsTheManualsUnderTheNamesThatThePanelKnows)
+{
+    if (!HAS_MANUALS)
+        GTEST_SKIP() << "What makes the user's guide was not there when the build was set up.";
+    for (const std::string name : {"kinovra.pdf", "kv_qrg.pdf", "kv_win.pdf"}) {
+        const std::string text = contentOf(Package / "manuals" / name);
+        EXPECT_TRUE(text.starts_with("%PDF-")) << name;
+        EXPECT_GT(text.size(), 20'000U) << name;
+    }
+    EXPECT_EQ(contentOf(Package / "manuals" / "kv_qrg.pdf"), contentOf(Package / "manuals" / "kv_win.pdf"));
+}
+
 TEST(Trials, areThereAtEveryStage)
 {
     EXPECT_THAT(visibleNamesIn(Source / "trials"), UnorderedElementsAreArray(TrialFiles));
@@ -208,6 +220,8 @@ protected:
         if (std::string(CMAKE_PROGRAM).empty())
             GTEST_SKIP() << "CMake is no program of the system that this was built for.";
         fs::copy(Source, directory.outside("source"), fs::copy_options::recursive);
+        directory.write("../manual.pdf", "a manual\n");
+        directory.write("../quick.pdf", "a quick reference\n");
     }
 
     Ended assemble() const
@@ -215,10 +229,12 @@ protected:
         const std::string program = STAND_IN_PROGRAM;
         const std::string script = PRACTICE_SOURCE "/assemble_package.cmake";
         const std::string source = textOf(directory.outside("source"));
+        const std::string manuals =
+            textOf(directory.outside("manual.pdf")) + ";" + textOf(directory.outside("quick.pdf"));
         const std::string package = textOf(directory.path());
         return runToEnd({CMAKE_PROGRAM,
                          {"cmake", "-DPROGRAM=" + program, "-DNAMES=refila;kinemati", "-DSOURCE=" + source,
-                          "-DPACKAGE=" + package, "-P", script},
+                          "-DMANUALS=" + manuals, "-DPACKAGE=" + package, "-P", script},
                          directory.path()});
     }
 
@@ -254,9 +270,11 @@ TEST_F(Assembly, refreshesProgramsAndTextsThatChanged)
     ASSERT_EQ(assemble().exitCode, 0);
     directory.write("../source/help/energy.txt", "newer\n");
     directory.write("../source/graphs/RUN.GRA", "newer\n");
+    directory.write("../manual.pdf", "newer\n");
     directory.write("refila.exe", "an older program\n");
     directory.write("graphs/STICK.GRA", "changed in the package\n");
-    for (const std::string name : {"energy.txt", "graphs/RUN.GRA", "refila.exe"})
+    directory.write("manuals/quick.pdf", "changed in the package\n");
+    for (const std::string name : {"energy.txt", "graphs/RUN.GRA", "manuals/manual.pdf", "refila.exe"})
         setAge(directory.path(name), std::chrono::hours(24 * 365 * 30));
 
     ASSERT_EQ(assemble().exitCode, 0);
@@ -265,6 +283,8 @@ TEST_F(Assembly, refreshesProgramsAndTextsThatChanged)
     EXPECT_EQ(directory.read("graphs/RUN.GRA"), "newer\n");
     EXPECT_EQ(contentOf(directory.path("refila.exe")), contentOf(STAND_IN_PROGRAM));
     EXPECT_EQ(directory.read("graphs/STICK.GRA"), "changed in the package\n");
+    EXPECT_EQ(directory.read("manuals/manual.pdf"), "newer\n");
+    EXPECT_EQ(directory.read("manuals/quick.pdf"), "changed in the package\n");
 }
 
 } // namespace
