@@ -205,7 +205,7 @@ FunctionEnd
   WriteRegStr HKCU "${RECORD_KEY}" "${FOLDER}${NAME}" "${BUILD} ${DIGEST}"
 !macroend
 
-; Programs, texts and graph types of the practice package.
+; Programs, texts, graph types and manuals of the practice package.
 !macro InstallPracticeFile FOLDER NAME SOURCE DIGEST
   StrCpy $0 "${FOLDER}${NAME}"
   StrCpy $7 "${DIGEST}"
