@@ -69,6 +69,28 @@ TEST_F(FileLists, refreshed_show_what_is_new)
     EXPECT_EQ(frm.drvDrives.Drive.value(), u"c: [data]"_s);
 }
 
+TEST_F(FileLists, refreshed_let_pending_events_run_at_the_end)
+{
+    addData({"NEW.DG", "new.cfb", "new.km", "new.out", "new.plt"});
+    addFile(u"C:\\KINOVRA\\graphs\\NEW.GRA"_s);
+    machine.files.addDirectory(u"C:\\DATA\\sub"_s);
+    machine.files.addDrive(u"e:"_s);
+    frm.lblBinaries.Visible = false;
+    machine.clock.whilePending = [&] {
+        EXPECT_TRUE(shown(frm.filDatafiles).contains(u"NEW.DG"_s));
+        EXPECT_TRUE(shown(frm.filModels).contains(u"new.cfb"_s));
+        EXPECT_TRUE(shown(frm.filBinaries).contains(u"new.km"_s));
+        EXPECT_TRUE(shown(frm.filOutputs).contains(u"new.out"_s));
+        EXPECT_TRUE(shown(frm.filPlots).contains(u"new.plt"_s));
+        EXPECT_TRUE(shown(frm.filGraFiles).contains(u"NEW.GRA"_s));
+        EXPECT_EQ(frm.dirSelect.RowPath(frm.dirSelect.RowCount() - 1), u"C:\\DATA\\sub"_s);
+        EXPECT_TRUE(frm.drvDrives.Drives.value().contains(u"e:"_s));
+        EXPECT_TRUE(frm.lblBinaries.Visible);
+    };
+    click(frm.cmdRefresh);
+    EXPECT_EQ(machine.clock.pendingRuns, 1);
+}
+
 TEST_F(FileLists, refreshed_keep_what_is_selected_and_run_no_handler)
 {
     click(frm.filDatafiles, u"RUN2.DG"_s);

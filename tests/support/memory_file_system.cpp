@@ -18,9 +18,14 @@ namespace {
 class MemoryFile : public platform::OpenedFile
 {
 public:
-    MemoryFile(QByteArray content, std::function<void(const QString &call)> beforeCall)
-        : content_(std::move(content)), beforeCall_(std::move(beforeCall))
-    {}
+    MemoryFile(QByteArray content, std::function<void(const QString &call)> beforeCall, int &filesOpen)
+        : content_(std::move(content)), beforeCall_(std::move(beforeCall)), filesOpen_(filesOpen)
+    {
+        ++filesOpen_;
+    }
+    ~MemoryFile() override { --filesOpen_; }
+    MemoryFile(const MemoryFile &) = delete;
+    MemoryFile &operator=(const MemoryFile &) = delete;
 
     QByteArray read(qsizetype most) override
     {
@@ -34,6 +39,7 @@ public:
 private:
     QByteArray content_;
     std::function<void(const QString &call)> beforeCall_;
+    int &filesOpen_;
 };
 
 // A drive, "." and ".." mean another directory as soon as the current one does.
@@ -263,7 +269,7 @@ qint16 MemoryFileSystem::testReading(const QString &path) noexcept
 std::unique_ptr<platform::OpenedFile> MemoryFileSystem::openFile(const QString &path)
 {
     announce("openFile");
-    return std::make_unique<MemoryFile>(openable(path).content, beforeCall);
+    return std::make_unique<MemoryFile>(openable(path).content, beforeCall, filesOpen);
 }
 
 QString MemoryFileSystem::firstLine(const QString &path)

@@ -66,6 +66,8 @@ public:
     /// How many directories were read, and how many of them anew.
     int directoriesRead = 0;
     int directoriesReadAnew = 0;
+    /// How many files are open now.
+    int filesOpen = 0;
 
 private:
     struct Node

@@ -173,6 +173,13 @@ void RecordingClock::letEventsRunUntil(double until)
     now = until;
 }
 
+void RecordingClock::letPendingEventsRun()
+{
+    ++pendingRuns;
+    if (whilePending)
+        whilePending();
+}
+
 void RecordingClock::duringPause(double after, std::function<void()> event)
 {
     events_.push_back({after, std::move(event)});

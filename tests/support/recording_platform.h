@@ -103,7 +103,7 @@ class RecordingClock : public platform::Clock
 public:
     double seconds() override { return now; }
     void letEventsRunUntil(double until) override;
-    void letPendingEventsRun() override { ++pendingRuns; }
+    void letPendingEventsRun() override;
 
     /// Runs `event` during the next pause, `after` seconds from its start.
     void duringPause(double after, std::function<void()> event);
@@ -111,6 +111,7 @@ public:
     double now = 100;
     std::vector<double> pauses; ///< lengths in seconds
     int pendingRuns = 0;
+    std::function<void()> whilePending; ///< run as an event that is pending, each time such are let run
 
 private:
     struct Event
