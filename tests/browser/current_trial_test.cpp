@@ -101,6 +101,11 @@ TEST_F(DatafileClick, tells_an_expert_nothing_about_other_files)
 TEST_F(DatafileClick, reports_an_empty_file)
 {
     addFile(u"C:\\DATA\\run1.dg"_s, QByteArray());
+    frm.lblTitle.Caption = u"(before)"_s;
+    machine.dialogs.whileShown = [&](const MessageBox &) {
+        EXPECT_EQ(frm.lblTrial.Caption.value(), u"RUN1.dg"_s);
+        EXPECT_EQ(frm.lblTitle.Caption.value(), u"(before)"_s);
+    };
     click(frm.filDatafiles, u"run1.dg"_s);
     EXPECT_THAT(machine.dialogs.messages, ElementsAre(Unreadable));
     EXPECT_EQ(frm.lblTitle.Caption.value(), u"Unreadable or empty file."_s);
@@ -259,6 +264,21 @@ TEST_F(ModelClick, chooses_the_trial_of_the_same_name)
 TEST_F(ModelClick, stores_the_data_directory)
 {
     click(frm.filModels, u"walk.cfb"_s);
+    using Written = support::RecordingSettings::Written;
+    EXPECT_THAT(machine.settings.written,
+                ElementsAre(Written{u"Kinovra"_s, u"Startup"_s, u"Datadir"_s, u"C:\\DATA"_s}));
+}
+
+TEST_F(ModelClick, stores_the_data_directory_before_it_reads_the_title)
+{
+    addFile(u"C:\\DATA\\walk.cfb"_s, QByteArray());
+    size_t writtenBefore = 0;
+    machine.files.beforeCall = [&](const QString &call) {
+        if (call == u"firstLine")
+            writtenBefore = machine.settings.written.size();
+    };
+    click(frm.filModels, u"walk.cfb"_s);
+    EXPECT_EQ(writtenBefore, 1U);
     using Written = support::RecordingSettings::Written;
     EXPECT_THAT(machine.settings.written,
                 ElementsAre(Written{u"Kinovra"_s, u"Startup"_s, u"Datadir"_s, u"C:\\DATA"_s}));

@@ -78,6 +78,23 @@ TEST_F(Directories, opened_forget_the_trial_the_binary_file_and_the_plot)
     EXPECT_EQ(frm.filDatafiles.ListIndex.value(), -1);
 }
 
+TEST_F(Directories, of_four_characters_become_the_data_directory)
+{
+    addFile(u"C:\\A\\RUN7.DG"_s);
+    open(u"C:\\"_s);
+    open(u"C:\\A"_s);
+    EXPECT_EQ(kinovra.DataDir, u"C:\\A"_s);
+    EXPECT_EQ(frm.lblPath.Caption.value(), u"c:\\a"_s);
+}
+
+TEST_F(Directories, opened_make_their_drive_current)
+{
+    machine.files.changeDrive(u"d:"_s);
+    ASSERT_EQ(machine.files.currentDirectory(), u"D:\\"_s);
+    open(u"C:\\"_s);
+    EXPECT_EQ(machine.files.currentDirectory(), u"C:\\"_s);
+}
+
 TEST_F(Directories, at_a_root_give_the_drives_text_as_data_directory)
 {
     addFile(u"C:\\ROOT.DG"_s);
@@ -93,15 +110,17 @@ TEST_F(Directories, at_a_root_give_the_drives_text_as_data_directory)
 
 TEST_F(Directories, with_one_model_choose_it_at_once)
 {
-    addFile(u"C:\\One\\Squat.cfb"_s);
+    addFile(u"C:\\One\\Squat.cfb"_s, "Model of a lifter\n");
     addFile(u"C:\\One\\RUN9.DG"_s);
     open(u"C:\\"_s);
+    frm.lblTitle.Caption = u"(before)"_s;
     open(u"C:\\One"_s);
     EXPECT_EQ(kinovra.SelectedFile, u"Squat.cfb"_s);
     EXPECT_EQ(kinovra.CurrentTrial, u"Squat"_s);
     EXPECT_EQ(kinovra.CurrentExtension, QString());
     EXPECT_EQ(frm.lblTrial.Caption.value(), u"SQUAT"_s);
     EXPECT_EQ(frm.filModels.FileName(), u"Squat.cfb"_s);
+    EXPECT_EQ(frm.lblTitle.Caption.value(), u"(before)"_s) << "only a click reads the title";
     EXPECT_THAT(machine.settings.written, IsEmpty());
 }
 
@@ -210,6 +229,33 @@ TEST_F(Directories, that_cannot_become_current_are_reported)
     EXPECT_EQ(messages(), QStringList{u"There was a problem finding a path.  Error was Permission denied"_s});
     // The data directory stays as it was last set.
     EXPECT_EQ(kinovra.DataDir, u"C:\\Trials"_s);
+}
+
+TEST_F(Directories, that_cannot_become_current_leave_the_trial)
+{
+    machine.files.addDirectory(u"C:\\DATA\\Below"_s);
+    click(frm.cmdRefresh);
+    for (const QString &failing : {u"changeDrive"_s, u"changeDirectory"_s}) {
+        browser::openDirectory(panel, u"C:\\DATA"_s);
+        click(frm.filDatafiles, u"RUN1.DG"_s);
+        click(frm.filBinaries, u"run1.km"_s);
+        forget();
+        machine.files.beforeCall = [&](const QString &call) {
+            if (call == failing)
+                throw platform::RuntimeError(ErrorNumber::PermissionDenied);
+        };
+        open(u"C:\\DATA\\Below"_s);
+        machine.files.beforeCall = {};
+        EXPECT_EQ(messages(),
+                  QStringList{u"There was a problem finding a path.  Error was Permission denied"_s});
+        EXPECT_EQ(kinovra.DataDir, u"C:\\DATA\\Below"_s);
+        EXPECT_EQ(kinovra.CurrentTrial, u"RUN1"_s);
+        EXPECT_EQ(kinovra.CurrentExtension, u"DG"_s);
+        EXPECT_EQ(kinovra.BinaryFile, u"run1.km"_s);
+        EXPECT_EQ(frm.lblTrial.Caption.value(), u"RUN1.DG"_s);
+        EXPECT_EQ(frm.lblPath.Caption.value(), u"c:\\data"_s);
+        EXPECT_EQ(frm.filDatafiles.Path(), u"C:\\DATA"_s);
+    }
 }
 
 TEST_F(Directories, impossible_rows_do_nothing)
