@@ -40,7 +40,11 @@ protected:
         return frm.filBinaries.ListCount() == 1 && frm.filOutputs.ListCount() > 0
                && frm.filPlots.ListCount() == 1 && frm.filDatafiles.ListCount() == 1;
     }
-    bool listsUntouched() const { return frm.filBinaries.ListCount() == 0 && frm.filPlots.ListCount() == 0; }
+    bool listsUntouched() const
+    {
+        return frm.filBinaries.ListCount() == 0 && frm.filOutputs.ListCount() == 0
+               && frm.filPlots.ListCount() == 0;
+    }
 
     const QString kinemati = u"C:\\KINOVRA\\Kinemati.exe"_s;
     const Start started{u"open"_s,
@@ -83,6 +87,11 @@ TEST_F(RunProgramTest, refuses_a_program_that_cannot_be_opened)
 {
     machine.files.remove(kinemati);
     addResults();
+    frm.lblCommand.Visible = false;
+    machine.dialogs.whileShown = [&](const MessageBox &) {
+        EXPECT_EQ(frm.lblCommand.Caption.value(), u"c:\\kinovra\\kinemati.exe /d run1"_s);
+        EXPECT_TRUE(frm.lblCommand.Visible) << "the command is shown first";
+    };
     EXPECT_EQ(run(), 1);
     EXPECT_THAT(
         machine.dialogs.messages,
@@ -179,6 +188,18 @@ TEST_F(RunProgramTest, neither_pauses_nor_offers_without_the_prompt)
     EXPECT_TRUE(listsRefreshed());
 }
 
+TEST_F(RunProgramTest, does_not_pause_for_the_pause_item)
+{
+    click(frm.mnuPrompt);
+    click(frm.mnuPause);
+    EXPECT_EQ(run(), 0);
+    EXPECT_THAT(machine.clock.pauses, IsEmpty());
+    click(frm.mnuPrompt);
+    machine.dialogs.answers = {platform::No};
+    EXPECT_EQ(run(), 0);
+    EXPECT_THAT(machine.clock.pauses, ElementsAre(1.0));
+}
+
 TEST_F(RunProgramTest, offers_nothing_where_the_listing_goes_elsewhere)
 {
     for (const QString &listingSwitch : {u"/T "_s, u"/L "_s, u"/N "_s}) {
@@ -231,11 +252,31 @@ TEST_F(RunProgramTest, refreshes_for_the_interactive_simulator_with_its_listing_
 TEST_F(RunProgramTest, goes_on_after_a_failed_start_and_the_status_bar_says_why)
 {
     addData({"Kinemati.out"});
+    addResults();
     machine.programs.failure = u"Wine is not installed"_s;
     machine.dialogs.answers = {platform::No};
     EXPECT_EQ(run(), 0);
     EXPECT_THAT(machine.dialogs.messages, ElementsAre(offer));
     EXPECT_EQ(kinovra.TaskId, 2);
+    EXPECT_THAT(machine.clock.pauses, ElementsAre(1.0));
+    EXPECT_TRUE(listsRefreshed());
+}
+
+TEST_F(RunProgramTest, goes_on_after_a_viewer_that_does_not_start)
+{
+    addData({"Kinemati.out"});
+    addResults();
+    machine.dialogs.answers = {platform::Yes};
+    machine.dialogs.whileShown = [&](const MessageBox &) {
+        EXPECT_EQ(kinovra.TaskId, 42);
+        machine.programs.failure = u"it was not found"_s;
+    };
+    EXPECT_EQ(run(), 0);
+    EXPECT_EQ(machine.programs.started.size(), 2U);
+    EXPECT_THAT(machine.dialogs.messages, ElementsAre(offer));
+    EXPECT_EQ(kinovra.TaskId, 2);
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"notepad.exe was not started: it was not found."_s);
+    EXPECT_TRUE(listsRefreshed());
 }
 
 TEST_F(RunProgramTest, says_in_the_status_bar_why_a_start_failed)

@@ -193,6 +193,7 @@ TEST_F(RunAProgram, tells_where_the_data_directory_is_gone)
     choose(u"D:\\PROGRAMS\\A.EXE"_s);
     EXPECT_EQ(machine.programs.started.size(), 1U);
     EXPECT_THAT(machine.dialogs.messages, ElementsAre(MessageBox{u"Path not found"_s, Icon::Exclamation}));
+    EXPECT_EQ(frm.dlgOpen.InitDir, u"C:\\DATA"_s) << "the next dialog begins there all the same";
 }
 
 TEST_F(RunAProgram, starts_nothing_when_the_window_is_closed_meanwhile)
@@ -342,4 +343,5 @@ TEST_F(ProgHelp, tells_where_the_data_directory_is_gone)
     machine.files.remove(u"C:\\DATA"_s);
     click(frm.mnuProgHelp);
     EXPECT_THAT(machine.dialogs.messages, ElementsAre(MessageBox{u"Path not found"_s, Icon::Exclamation}));
+    EXPECT_EQ(frm.dlgOpen.InitDir, u"C:\\DATA"_s);
 }
