@@ -334,6 +334,17 @@ TEST_F(GraphCreation, refuses_without_a_trial)
     EXPECT_EQ(machine.clock.pendingRuns, 0);
 }
 
+TEST_F(GraphCreation, lets_pending_events_run_when_the_result_of_the_run_is_known)
+{
+    std::vector<qint16> answers;
+    machine.clock.whilePending = [&] { answers.push_back(kinovra.Answer); };
+    mark();
+    choose(Create);
+    machine.files.remove(u"C:\\KINOVRA\\Graph.exe"_s);
+    choose(Create);
+    EXPECT_THAT(answers, ElementsAre(0, 1));
+}
+
 TEST_F(GraphCreation, goes_on_without_a_type_on_no)
 {
     withoutType();

@@ -286,6 +286,23 @@ TEST_F(GraphPrinting, starts_nothing_in_a_data_directory_that_is_gone)
     expectMarkedBut({});
 }
 
+TEST_F(GraphPrinting, shows_no_graphs_of_another_directory_where_the_data_directory_is_gone)
+{
+    selectPlot();
+    addFile(u"C:\\OTHER\\other.plt"_s);
+    browser::pointAt(panel, frm.filPlots, u"C:\\OTHER"_s);
+    ASSERT_EQ(frm.filPlots.ListCount(), 1);
+    machine.files.remove(u"C:\\DATA"_s);
+    mark();
+    print(0);
+    EXPECT_THAT(machine.dialogs.messages, ElementsAre(noGraphs));
+    EXPECT_TRUE(plotsHidden());
+    EXPECT_EQ(frm.filPlots.ListCount(), 0);
+    EXPECT_EQ(said(), u"DATA cannot be read: path not found."_s);
+    EXPECT_THAT(machine.programs.started, IsEmpty());
+    expectMarkedBut({});
+}
+
 TEST_F(GraphPrinting, ends_silently_when_the_window_is_closed_during_a_message)
 {
     machine.dialogs.whileShown = [this](const MessageBox &) { shell::dispatch(panel, frm.Unload); };

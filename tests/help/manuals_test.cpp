@@ -91,9 +91,13 @@ TEST_F(ManualsMenu, tests_with_a_leading_backslash_and_keeps_the_last_result)
     addFile(manual("binaries.pdf"));
     mark();
     openMenu(frm.mnuManuals);
-    ASSERT_EQ(machine.files.tested.size(), 9);
-    EXPECT_EQ(machine.files.tested[0], u"C:\\KINOVRA\\MANUALS\\\\\\KINOVRA.PDF"_s);
-    EXPECT_EQ(machine.files.tested[4], u"C:\\KINOVRA\\MANUALS\\\\\\KV_QRG.PDF"_s);
+    EXPECT_THAT(machine.files.tested,
+                ElementsAre(uR"(C:\KINOVRA\MANUALS\\\KINOVRA.PDF)"_s, uR"(C:\KINOVRA\MANUALS\\\MODLEX.PDF)"_s,
+                            uR"(C:\KINOVRA\MANUALS\\\GRAPH.PDF)"_s, uR"(C:\KINOVRA\MANUALS\\\SKELVO.PDF)"_s,
+                            uR"(C:\KINOVRA\MANUALS\\\KV_QRG.PDF)"_s, uR"(C:\KINOVRA\MANUALS\\\ONDEX.PDF)"_s,
+                            uR"(C:\KINOVRA\MANUALS\\\OX2_QRG.PDF)"_s,
+                            uR"(C:\KINOVRA\MANUALS\\\SIMULATE.PDF)"_s,
+                            uR"(C:\KINOVRA\MANUALS\\\BINARIES.PDF)"_s));
     EXPECT_EQ(kinovra.Answer, 0);
     expectMarkedBut({u"Answer"_s});
 }

@@ -140,6 +140,15 @@ TEST_F(TextViewer, shows_a_file_without_its_last_character)
     EXPECT_THAT(machine.programs.started, IsEmpty());
 }
 
+TEST_F(TextViewer, closes_every_file)
+{
+    showContent("one\n");
+    EXPECT_EQ(machine.files.filesOpen, 0);
+    showContent("");
+    expectGivenToNotepad();
+    EXPECT_EQ(machine.files.filesOpen, 0);
+}
+
 TEST_F(TextViewer, cuts_the_last_character_whatever_it_is)
 {
     showContent("one");

@@ -1,3 +1,4 @@
+#include "browser/file_lists.h"
 #include "panel_fixture.h"
 #include "platform/runtime_error.h"
 #include "printing.h"
@@ -66,6 +67,16 @@ TEST_F(ViewMenu, shows_the_binary_files)
     EXPECT_EQ(frm.filBinaries.Names.value().toList(), (QStringList{u"walk1.km"_s, u"walk1.pj"_s}));
     EXPECT_THAT(machine.dialogs.messages, IsEmpty());
     expectMarkedBut({});
+}
+
+TEST_F(ViewMenu, shows_the_binary_files_of_the_data_directory_alone)
+{
+    addFile(u"C:\\OTHER\\other.km"_s);
+    browser::pointAt(panel, frm.filBinaries, u"C:\\OTHER"_s);
+    click(frm.mnuView[0]);
+    EXPECT_EQ(frm.filBinaries.Path(), u"C:\\DATA"_s);
+    EXPECT_EQ(frm.filBinaries.Names.value().toList(), QStringList{u"walk1.km"_s});
+    expectVisible({&frm.filBinaries, &frm.lblBinaries});
 }
 
 TEST_F(ViewMenu, keeps_the_chosen_binary_file)
@@ -252,8 +263,12 @@ TEST_F(ViewMenu, starts_nothing_without_a_name)
         view(index, QString());
         EXPECT_THAT(machine.programs.started, IsEmpty());
         EXPECT_EQ(kinovra.SelectedFile, index == 1 ? u"(before)"_s : QString());
-        EXPECT_EQ(frm.lblCommand.Caption.value(), u"(before)"_s);
-        EXPECT_EQ(kinovra.TaskId, -1);
+        if (index == 1)
+            expectMarkedBut({});
+        else if (index == 3)
+            expectMarkedBut({u"SelectedFile"_s, u"Answer"_s});
+        else
+            expectMarkedBut({u"SelectedFile"_s});
     }
 }
 
