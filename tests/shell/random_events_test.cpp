@@ -40,6 +40,26 @@ constexpr const char *FileNames[]{"walk1.dg",     "walk1.cn",  "walk1.cfb",    "
 constexpr const char *TypedNames[]{"SUB",       "new", "new\\below", "..\\EMPTY",
                                    "D:\\stick", "x:y", "walk1.dg",   ""};
 
+// What is dropped on the window, odd paths among them.
+constexpr const char *DroppedPaths[]{"C:\\DATA\\walk1.dg",
+                                     "C:\\DATA\\SUB\\run.2.cfb",
+                                     "C:\\One Model\\only.cfb",
+                                     "D:\\stick\\gone.dg",
+                                     "C:\\DATA\\walk1.km",
+                                     "D:\\walk1.dg",
+                                     "",
+                                     "walk1.dg",
+                                     "C:\\",
+                                     "C:",
+                                     "c: [data]",
+                                     "d: [stick]\\walk1.dg",
+                                     "Q:\\DATA\\walk1.dg",
+                                     "C:\\DATA",
+                                     "C:\\DATA\\",
+                                     "C:\\DATA\\.",
+                                     "C:\\DATA\\.dg",
+                                     "\\\\server\\share\\walk1.dg"};
+
 /// The state that commands share, by the name of each variable.
 using State = QMap<QString, QString>;
 
@@ -140,6 +160,8 @@ protected:
         events.emplace_back([this] { resizeWindow(); });
         events.emplace_back([this] { shell::dispatch(panel, frm.Activate); });
         events.emplace_back([this] { shell::dispatch(panel, frm.DblClick); });
+        events.emplace_back([this] { shell::dispatch(panel, frm.Returned); });
+        events.emplace_back([this] { dropSomeFile(); });
         events.emplace_back([this] { endSomeProgram(); });
         events.emplace_back([this] { planEventDuringPause(); });
         events.emplace_back([this] { changeMachine(); });
@@ -217,6 +239,13 @@ protected:
     {
         const int row = pick(static_cast<size_t>(frm.dirSelect.RowCount()) + 2) - 1;
         shell::dispatch(panel, [&] { frm.dirSelect.OpenRow(row); });
+    }
+
+    void dropSomeFile()
+    {
+        const QString path = QLatin1String(DroppedPaths[pick(std::size(DroppedPaths))]);
+        dropped = true;
+        shell::dispatch(panel, [&] { frm.FileDropped(path); });
     }
 
     void changeFiles()
@@ -385,7 +414,8 @@ protected:
             {"No printer was found on this computer.", {}},
         };
         const auto &messages = machine.dialogs.messages;
-        if (messages.size() != 1 || inPause)
+        // What is dropped opens its directory before its click may refuse.
+        if (messages.size() != 1 || inPause || dropped)
             return;
         const bool refused = messages[0].buttons == platform::Buttons::OKOnly || lastAnswer == platform::No;
         for (const Refusal &refusal : refusals) {
@@ -448,6 +478,7 @@ protected:
     std::vector<std::function<void()>> events;
     bool failing = false;
     bool inPause = false;
+    bool dropped = false;
     platform::Answer lastAnswer = platform::OK;
     const int aboutHeight = about.Height;
     int endings = 0;
@@ -466,6 +497,7 @@ TEST_F(RandomEvents, never_break_the_panel)
     for (int i = 0; i < Events && !HasFailure(); ++i) {
         const State before = state();
         inPause = false;
+        dropped = false;
         ASSERT_NO_THROW(runOneEvent()) << "event " << i;
         checkRefusal(before);
         checkInvariants();
