@@ -28,7 +28,9 @@ bool isOpenedFor(Panel &panel, const QString &directory)
 {
     auto [kinovra, frm, platform] = panel.parts();
 
-    const auto isOpen = [&frm, &directory] { return UCase(frm.dirSelect.Path()) == UCase(directory); };
+    const auto isOpen = [&panel, &directory] {
+        return UCase(panel.frm.dirSelect.Path()) == UCase(directory);
+    };
     if (isOpen()) {
         // The file may be new.
         refresh(panel, {&frm.filDatafiles, &frm.filModels});
