@@ -116,6 +116,22 @@ TEST_F(AverageDialogView, shows_its_lower_part_while_it_is_tall)
                            u"Compute &Ensemble Averages"_s}));
 }
 
+TEST_F(AverageDialogView, says_what_its_fields_are)
+{
+    showFor(QString());
+    const auto caption = [this](const QWidget *field) {
+        for (const QLabel *label : dialog().findChildren<QLabel *>()) {
+            if (label->buddy() == field)
+                return label->text();
+        }
+        return QString();
+    };
+    EXPECT_EQ(caption(file()), u"Binary data file:"_s);
+    EXPECT_EQ(caption(list()), u"List of filenames:"_s);
+    EXPECT_EQ(dialog().findChild<QGroupBox *>()->title(), u"Confidence Levels"_s);
+    EXPECT_EQ(file()->toolTip(), u"Name of selected binary data file"_s);
+}
+
 TEST_F(AverageDialogView, changes_its_height_while_it_is_shown)
 {
     showFor(QString());

@@ -15,6 +15,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -95,6 +96,16 @@ TEST_F(MessageBoxViews, belong_to_the_main_window_where_the_active_one_is_minimi
     windows->textViewer()->showMinimized();
     QApplication::setActiveWindow(windows->textViewer());
     EXPECT_EQ(ownerOfBox(), &window());
+}
+
+TEST_F(MessageBoxViews, show_every_character_of_an_input_boxs_title)
+{
+    show();
+    whenShown<QInputDialog>([](QInputDialog &dialog) {
+        EXPECT_EQ(dialog.windowHandle()->title(), u"walk[*].txt"_s);
+        dialog.reject();
+    });
+    boxes.input({u"Name?"_s, u"walk[*].txt"_s});
 }
 
 TEST_F(MessageBoxViews, let_the_user_choose_a_colour)
