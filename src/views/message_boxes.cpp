@@ -144,7 +144,8 @@ Answer MessageBoxes::message(const platform::MessageBox &box)
 {
     closeMenus();
     QMessageBox window(standardIcon(box.icon),
-                       box.title.isEmpty() ? QString(QLatin1String(shell::ApplicationTitle)) : box.title,
+                       box.title.isEmpty() ? QString(QLatin1String(shell::ApplicationTitle))
+                                           : plainTitle(box.title),
                        shown(box.text), standardButtons(box.buttons), owner());
     window.setTextFormat(Qt::PlainText);
     if (box.noByDefault)

@@ -98,6 +98,15 @@ TEST_F(MessageBoxViews, belong_to_the_main_window_where_the_active_one_is_minimi
     EXPECT_EQ(ownerOfBox(), &window());
 }
 
+TEST_F(MessageBoxViews, show_every_character_of_their_title)
+{
+    whenShown<QMessageBox>([](QMessageBox &box) {
+        EXPECT_EQ(box.windowHandle()->title(), u"Update walk[*].txt Yes/No?"_s);
+        box.accept();
+    });
+    boxes.message({.text = u"text"_s, .title = u"Update walk[*].txt Yes/No?"_s});
+}
+
 TEST_F(MessageBoxViews, show_every_character_of_an_input_boxs_title)
 {
     show();
