@@ -6,7 +6,6 @@
 #include <gmock/gmock.h>
 
 using namespace Qt::StringLiterals;
-using platform::ErrorNumber;
 using testing::IsEmpty;
 
 namespace {
@@ -31,7 +30,7 @@ protected:
         shell::dispatch(panel, [this, path] { frm.FileDropped(path); });
     }
 
-    QString said() const { return frm.StatusBar1.Panel1; }
+    QString said() const { return frm.StatusBar1.Panel1.value(); }
 };
 
 } // namespace

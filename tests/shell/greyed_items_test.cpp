@@ -43,7 +43,7 @@ protected:
             openMenu(*menu);
     }
 
-    static QString why(const controls::MenuItem &item) { return item.Hindrance; }
+    static QString why(const controls::MenuItem &item) { return item.Hindrance.value(); }
 };
 
 } // namespace
