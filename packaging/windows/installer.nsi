@@ -60,9 +60,9 @@ VIAddVersionKey OriginalFilename "Kinovra-${VERSION}-setup.exe"
 VIAddVersionKey ProductName "${PRODUCT}"
 VIAddVersionKey ProductVersion "${VERSION}.0"
 
-!define MUI_ICON "kinovra.ico"
-!define MUI_UNICON "kinovra.ico"
-!define MUI_WELCOMEFINISHPAGE_BITMAP "setup.bmp"
+!define MUI_ICON "${PICTURES}/kinovra.ico"
+!define MUI_UNICON "${PICTURES}/kinovra.ico"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${PICTURES}/setup.bmp"
 !define MUI_COMPONENTSPAGE_SMALLDESC
 !define MUI_FINISHPAGE_RUN
 !define MUI_FINISHPAGE_RUN_TEXT "Start Kinovra with the practice trials"
