@@ -41,24 +41,24 @@ constexpr const char *TypedNames[]{"SUB",       "new", "new\\below", "..\\EMPTY"
                                    "D:\\stick", "x:y", "walk1.dg",   ""};
 
 // What is dropped on the window, odd paths among them.
-constexpr const char *DroppedPaths[]{"C:\\DATA\\walk1.dg",
-                                     "C:\\DATA\\SUB\\run.2.cfb",
-                                     "C:\\One Model\\only.cfb",
-                                     "D:\\stick\\gone.dg",
-                                     "C:\\DATA\\walk1.km",
-                                     "D:\\walk1.dg",
+constexpr const char *DroppedPaths[]{R"(C:\DATA\walk1.dg)",
+                                     R"(C:\DATA\SUB\run.2.cfb)",
+                                     R"(C:\One Model\only.cfb)",
+                                     R"(D:\stick\gone.dg)",
+                                     R"(C:\DATA\walk1.km)",
+                                     R"(D:\walk1.dg)",
                                      "",
                                      "walk1.dg",
-                                     "C:\\",
+                                     R"(C:\)",
                                      "C:",
                                      "c: [data]",
-                                     "d: [stick]\\walk1.dg",
-                                     "Q:\\DATA\\walk1.dg",
-                                     "C:\\DATA",
-                                     "C:\\DATA\\",
-                                     "C:\\DATA\\.",
-                                     "C:\\DATA\\.dg",
-                                     "\\\\server\\share\\walk1.dg"};
+                                     R"(d: [stick]\walk1.dg)",
+                                     R"(Q:\DATA\walk1.dg)",
+                                     R"(C:\DATA)",
+                                     R"(C:\DATA\)",
+                                     R"(C:\DATA\.)",
+                                     R"(C:\DATA\.dg)",
+                                     R"(\\server\share\walk1.dg)"};
 
 /// The state that commands share, by the name of each variable.
 using State = QMap<QString, QString>;

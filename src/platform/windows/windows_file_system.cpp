@@ -155,10 +155,10 @@ QString WindowsFileSystem::shortName(const QString &path)
 {
     const QuietDrives quiet;
     const QString whole = absolute(path);
-    if (!askedAbout(whole).isValid())
-        raiseForReading(::GetLastError());
     if (isDirectory(attributesOf(whole)))
         throw RuntimeError(ErrorNumber::PathFileAccess);
+    if (!askedAbout(whole).isValid())
+        raiseForReading(::GetLastError());
     const std::wstring name = systemPath(whole);
     const QString shortPath = textOf(
         [&name](wchar_t *buffer, DWORD size) { return ::GetShortPathNameW(name.c_str(), buffer, size); });
