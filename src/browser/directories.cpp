@@ -64,12 +64,14 @@ void openDirectory(Panel &panel, const QString &path)
     dirSelect_Change(panel);
 }
 
-void goToDirectory(Panel &panel, const QString &path)
+bool goToDirectory(Panel &panel, const QString &path)
 {
     try {
         openDirectory(panel, path);
+        return true;
     } catch (const RuntimeError &error) {
         tellPathProblem(panel, error);
+        return false;
     }
 }
 

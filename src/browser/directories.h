@@ -10,8 +10,8 @@ using shell::Panel;
 /// was open already. Raises what the platform raises for a path that cannot be opened.
 void openDirectory(Panel &panel, const QString &path);
 
-/// The same; a path that cannot be opened is told, and nothing changes.
-void goToDirectory(Panel &panel, const QString &path);
+/// The same; a path that cannot be opened is told, and nothing changes. Whether it was opened.
+bool goToDirectory(Panel &panel, const QString &path);
 
 /// Opens row `row` of the directory list as the user does. The open directory itself is not opened again:
 /// that would lose the trial.

@@ -4,7 +4,6 @@
 #include "browser/directories.h"
 #include "browser/file_lists.h"
 #include "platform/file_pattern.h"
-#include "platform/letter_case.h"
 #include "platform/path_language.h"
 #include "shell/dispatch.h"
 
@@ -14,8 +13,6 @@ namespace browser {
 
 namespace {
 
-using platform::UCase;
-
 bool shows(const FileList &list, const QString &name)
 {
     const qsizetype dot = name.lastIndexOf(u'.');
@@ -23,26 +20,22 @@ bool shows(const FileList &list, const QString &name)
     return platform::FilePattern(list.Pattern).matches(name, key);
 }
 
-// Whether `directory` is the open one now.
-bool isOpenedFor(Panel &panel, const QString &directory)
+// Whether `directory` is open and its files are shown; what keeps it from that has been told. Letter case
+// counts: a host may have two directories of one name, with a file of the same name in each.
+bool openFor(Panel &panel, const QString &directory)
 {
     auto [kinovra, frm, platform] = panel.parts();
 
-    const auto isOpen = [&panel, &directory] {
-        return UCase(panel.frm.dirSelect.Path()) == UCase(directory);
-    };
-    if (isOpen()) {
+    if (frm.dirSelect.Path() == directory) {
         // The file may be new.
         refresh(panel, {&frm.filDatafiles, &frm.filModels});
         return true;
     }
     frm.drvDrives.refresh(platform.files.drives());
     frm.drvDrives.goBackTo(directory);
-    goToDirectory(panel, directory);
-    if (isOpen())
-        return true;
+    const bool isOpen = goToDirectory(panel, directory);
     frm.drvDrives.goBackTo(frm.dirSelect.Path());
-    return false;
+    return isOpen && frm.filDatafiles.Path() == frm.dirSelect.Path();
 }
 
 void clickOn(Panel &panel, FileList &list, controls::Label &label, const QString &name,
@@ -71,7 +64,7 @@ void fileDropped(Panel &panel, const QString &path)
         shell::say(panel, u"%1 is neither a data file nor a model."_s.arg(name));
         return;
     }
-    if (!isOpenedFor(panel, platform::parentOf(path)))
+    if (!openFor(panel, platform::parentOf(path)))
         return;
     if (isData)
         clickOn(panel, frm.filDatafiles, frm.lblDatafiles, name, filDatafiles_Click);

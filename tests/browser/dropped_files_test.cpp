@@ -1,11 +1,13 @@
 #include "browser/dropped_files.h"
 #include "panel_fixture.h"
+#include "platform/runtime_error.h"
 #include "printing.h"
 #include "shell/dispatch.h"
 
 #include <gmock/gmock.h>
 
 using namespace Qt::StringLiterals;
+using platform::ErrorNumber;
 using testing::IsEmpty;
 
 namespace {
@@ -50,7 +52,7 @@ TEST_F(DroppedFile, of_the_data_directory_is_chosen_as_by_a_click)
 TEST_F(DroppedFile, keeps_what_is_chosen_in_the_same_directory)
 {
     kinovra.BinaryFile = u"run.km"_s;
-    drop(u"c:\\data\\walk1.dg"_s);
+    drop(u"C:\\DATA\\walk1.dg"_s);
     EXPECT_EQ(kinovra.CurrentTrial, u"walk1"_s);
     EXPECT_EQ(kinovra.BinaryFile, u"run.km"_s);
 }
@@ -133,6 +135,20 @@ TEST_F(DroppedFile, that_is_gone_meanwhile_is_told)
 {
     drop(u"C:\\Trials\\gone.dg"_s);
     EXPECT_EQ(said(), u"gone.dg is not in the list."_s);
+    EXPECT_EQ(kinovra.CurrentTrial, QString());
+}
+
+TEST_F(DroppedFile, is_not_taken_for_its_namesake_where_its_directory_cannot_become_current)
+{
+    addFile(u"C:\\Trials\\walk1.dg"_s, "Another walk\n");
+    machine.files.beforeCall = [](const QString &call) {
+        if (call == u"changeDirectory")
+            throw platform::RuntimeError(ErrorNumber::PermissionDenied);
+    };
+    machine.dialogs.answers = {platform::OK};
+    drop(u"C:\\Trials\\walk1.dg"_s);
+    machine.files.beforeCall = nullptr;
+    EXPECT_EQ(messages(), QStringList{u"There was a problem finding a path.  Error was Permission denied"_s});
     EXPECT_EQ(kinovra.CurrentTrial, QString());
 }
 
