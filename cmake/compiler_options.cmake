@@ -1,4 +1,4 @@
-# Warnings and sanitizers, for every target of the project.
+# Warnings, sanitizers and coverage, for every target of the project.
 
 add_library(kinovra_options INTERFACE)
 
@@ -15,6 +15,12 @@ if(KINOVRA_SANITIZERS)
   target_compile_options(kinovra_options INTERFACE
     -fsanitize=${KINOVRA_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(kinovra_options INTERFACE -fsanitize=${KINOVRA_SANITIZERS})
+endif()
+
+if(KINOVRA_COVERAGE)
+  # Clang's counts are of the sources' own conditions, without the branches that a compiler makes for exceptions.
+  target_compile_options(kinovra_options INTERFACE -fprofile-instr-generate -fcoverage-mapping)
+  target_link_options(kinovra_options INTERFACE -fprofile-instr-generate)
 endif()
 
 # With a static Qt a program is one file, and its bytes depend on the sources alone: not on the time, nor on where they
