@@ -2,29 +2,29 @@
 
 #include "platform/display_text.h"
 #include "shell/menu_tree.h"
-#include "views/copyable_text.h"
+#include "views/captions.h"
+#include "views/chosen_frame.h"
 #include "views/directory_list_view.h"
 #include "views/drive_box.h"
 #include "views/elided_label.h"
+#include "views/file_drops.h"
 #include "views/file_list_view.h"
 #include "views/fitted_font.h"
 #include "views/key_preview.h"
+#include "views/main_window_spacing.h"
 #include "views/menus.h"
 #include "views/shared_place.h"
 #include "views/twips.h"
 
 #include <QCloseEvent>
-#include <QDragEnterEvent>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QMenuBar>
-#include <QMimeData>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QStatusBar>
-#include <QUrl>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -37,8 +37,6 @@ namespace views {
 
 namespace {
 
-constexpr int Margin = 8;
-constexpr int Gap = 4;
 constexpr int DirectoryColumn = 170;
 /// In twips.
 constexpr int UsualHeight = 9000;
@@ -46,13 +44,6 @@ constexpr int UsualHeight = 9000;
 constexpr int TitleHeight = 40;
 /// A click that brings the window back aims at what it showed before; what has changed follows after it.
 constexpr std::chrono::milliseconds AimsAtOldPicture{300};
-
-/// A caption without the "&" of its access key, as it is spoken.
-QString spoken(const QString &caption)
-{
-    QString result = caption;
-    return result.remove(u'&').trimmed();
-}
 
 // Of the window at first, in twips: a small screen leaves no room for its usual height below the title.
 int firstHeight()
@@ -67,25 +58,6 @@ ElidedLabel *makeValue(Qt::TextElideMode mode)
     return new ElidedLabel(mode);
 }
 
-// A screen reader speaks the caption with the value.
-QLabel *makeCaption(const QString &text, QWidget *value)
-{
-    auto *label = new QLabel(text);
-    label->setBuddy(value);
-    label->setTextFormat(Qt::PlainText);
-    label->setForegroundRole(QPalette::WindowText);
-    return label;
-}
-
-// The first file of this computer in what is dragged; empty where there is none.
-QString droppedFile(const QMimeData &data)
-{
-    const QList<QUrl> addresses = data.urls();
-    const auto file = std::find_if(addresses.begin(), addresses.end(),
-                                   [](const QUrl &address) { return address.isLocalFile(); });
-    return file == addresses.end() ? QString() : file->toLocalFile();
-}
-
 std::vector<MenuLine> menuLines(shell::frmKinovra &frm)
 {
     std::vector<MenuLine> lines;
@@ -97,9 +69,8 @@ std::vector<MenuLine> menuLines(shell::frmKinovra &frm)
 } // namespace
 
 MainWindow::MainWindow(EventRunner &events, platform::HostPaths &paths)
-    : events_(events), paths_(paths), frm_(events.panel().frm), activation_(this, [this] { activated(); })
+    : events_(events), frm_(events.panel().frm), activation_(this, [this] { activated(); })
 {
-    setAcceptDrops(true);
     returned_.setSingleShot(true);
     returned_.setInterval(AimsAtOldPicture);
     returned_.callOnTimeout(this, [this] { events_.run(frm_.Returned); });
@@ -111,6 +82,7 @@ MainWindow::MainWindow(EventRunner &events, platform::HostPaths &paths)
     makeStatusBar();
     leaveAccessKeysToMenus();
     new KeyPreview(this, events_);
+    new FileDrops(this, events_, paths);
     fitFont();
     bindWindow();
     datafiles_->setFocus();
@@ -132,7 +104,7 @@ QWidget *MainWindow::makeCentre()
     rows->addLayout(makeWhereAmI());
     rows->addLayout(makeBrowser());
     rows->addStretch();
-    rows->addWidget(makeChosen());
+    rows->addWidget(new ChosenFrame(frm_));
     rows->addStretch();
     rows->addLayout(makeButtons());
     // The window decides on its size; the font is fitted to it.
@@ -217,51 +189,6 @@ QWidget *MainWindow::makeGraphPlace()
     }
     rows->addStretch();
     return place;
-}
-
-QWidget *MainWindow::makeChosen()
-{
-    auto *frame = new QFrame;
-    frame->setFrameStyle(QFrame::StyledPanel);
-    auto *grid = new QGridLayout(frame);
-    grid->setContentsMargins(Margin, Gap, Margin, Gap);
-    grid->setHorizontalSpacing(Gap * 2);
-    grid->setVerticalSpacing(2);
-    QWidget *trial = addChosen(grid, 0, 0, u"Current trial:"_s, frm_.lblTrial);
-    QFont prominent = trial->font();
-    prominent.setBold(true);
-    trial->setFont(prominent);
-    addChosen(grid, 1, 0, u"Title:"_s, frm_.lblTitle);
-    addCommand(grid, 2, 0);
-    addChosen(grid, 0, 2, u"GRA(ph) file:"_s, frm_.lblGraphics[0]);
-    addChosen(grid, 1, 2, u"Listing to:"_s, frm_.lblOutput);
-    addChosen(grid, 2, 2, u"Graphics to:"_s, frm_.lblGraphics[1]);
-    grid->setColumnStretch(1, 3);
-    grid->setColumnStretch(3, 1);
-    return frame;
-}
-
-QWidget *MainWindow::addChosen(QGridLayout *grid, int row, int column, const QString &caption,
-                               controls::Label &value)
-{
-    auto *widget = makeValue(Qt::ElideRight);
-    bindings_.bind(widget, value);
-    grid->addWidget(makeCaption(caption, widget), row, column);
-    grid->addWidget(widget, row, column + 1);
-    return widget;
-}
-
-// Users paste the command line into a terminal or a report.
-void MainWindow::addCommand(QGridLayout *grid, int row, int column)
-{
-    auto *command = new CopyableText;
-    controls::Label &label = frm_.lblCommand;
-    command->setAccessibleName(u"Command line"_s);
-    bindings_.bind(static_cast<QWidget *>(command), label);
-    bindings_.follow(label.Caption,
-                     [command, &label] { command->show(platform::displayText(label.Caption)); });
-    grid->addWidget(makeCaption(u"Command line:"_s, command), row, column);
-    grid->addWidget(command, row, column + 1);
 }
 
 QLayout *MainWindow::makeButtons()
@@ -373,26 +300,6 @@ void MainWindow::activated()
     events_.run(frm_.Activate);
     if (std::exchange(wasActive_, true))
         returned_.start();
-}
-
-void MainWindow::dragEnterEvent(QDragEnterEvent *event)
-{
-    if (droppedFile(*event->mimeData()).isEmpty())
-        return;
-    // Never a move: the file stays where it is.
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
-}
-
-// Where it comes from waits until this returns, so that no box may be shown before.
-void MainWindow::dropEvent(QDropEvent *event)
-{
-    const QString file = droppedFile(*event->mimeData());
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
-    QMetaObject::invokeMethod(
-        this, [this, file] { events_.run([this, file] { frm_.FileDropped(paths_.panelForm(file)); }); },
-        Qt::QueuedConnection);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

@@ -32,8 +32,6 @@ public:
 protected:
     bool event(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
-    void dragEnterEvent(QDragEnterEvent *event) override;
-    void dropEvent(QDropEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
@@ -42,13 +40,9 @@ private:
     QLayout *makeWhereAmI();
     QLayout *makeBrowser();
     QWidget *makeGraphPlace();
-    QWidget *makeChosen();
     QLayout *makeButtons();
     void makeStatusBar();
     void addList(QGridLayout *grid, int row, int column, FileListView *view, controls::Label &caption);
-    QWidget *addChosen(QGridLayout *grid, int row, int column, const QString &caption,
-                       controls::Label &value);
-    void addCommand(QGridLayout *grid, int row, int column);
     QPushButton *makeButton(controls::Button &button);
     void bindWindow();
     void activated();
@@ -58,7 +52,6 @@ private:
     void leaveAccessKeysToMenus();
 
     EventRunner &events_;
-    platform::HostPaths &paths_;
     shell::frmKinovra &frm_;
     Bindings bindings_;
     Activation activation_;
