@@ -19,8 +19,13 @@ endif()
 
 if(KINOVRA_COVERAGE)
   # Clang's counts are of the sources' own conditions, without the branches that a compiler makes for exceptions.
-  target_compile_options(kinovra_options INTERFACE -fprofile-instr-generate -fcoverage-mapping)
-  target_link_options(kinovra_options INTERFACE -fprofile-instr-generate)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    target_compile_options(kinovra_options INTERFACE -fprofile-instr-generate -fcoverage-mapping)
+    target_link_options(kinovra_options INTERFACE -fprofile-instr-generate)
+  else()
+    target_compile_options(kinovra_options INTERFACE --coverage -fprofile-update=atomic)
+    target_link_options(kinovra_options INTERFACE --coverage)
+  endif()
 endif()
 
 # With a static Qt a program is one file, and its bytes depend on the sources alone: not on the time, nor on where they

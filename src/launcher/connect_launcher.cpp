@@ -2,10 +2,10 @@
 
 #include "launcher/companions.h"
 #include "launcher/directory_commands.h"
+#include "launcher/endings.h"
 #include "launcher/program_runner.h"
 #include "launcher/programs_menu.h"
 #include "launcher/progress_chart.h"
-#include "launcher/starting.h"
 #include "launcher/tools.h"
 #include "shell/connect_items.h"
 

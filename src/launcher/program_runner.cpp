@@ -3,6 +3,7 @@
 #include "browser/file_lists.h"
 #include "browser/test_file.h"
 #include "graphs/output_devices.h"
+#include "launcher/endings.h"
 #include "launcher/starting.h"
 #include "platform/letter_case.h"
 #include "shell/dispatch.h"

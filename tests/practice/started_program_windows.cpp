@@ -152,7 +152,8 @@ StartedProgram::StartedProgram(const Start &start) : process_(std::make_unique<P
     if (CreateProcessW(start.program.c_str(), line.data(), nullptr, nullptr, TRUE, 0, nullptr,
                        start.directory.c_str(), &startup, &started)
         == 0)
-        throw std::runtime_error("cannot start " + textOf(start.program));
+        throw std::runtime_error("cannot start " + textOf(start.program) + ": error "
+                                 + std::to_string(GetLastError()));
     CloseHandle(started.hThread);
     process_->process = Handle(started.hProcess);
     process_->out = std::move(out.readEnd);
