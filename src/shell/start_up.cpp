@@ -139,6 +139,26 @@ void enableButtons(Panel &panel)
         button->Enabled = true;
 }
 
+// Rows to click are the way out where the data directory could not be opened: those of the program directory
+// that has taken its place, or else of the current directory, with which a directory list begins.
+void showSomeDirectory(Panel &panel)
+{
+    auto [kinovra, frm, platform] = panel.parts();
+
+    try {
+        browser::openDirectory(panel, kinovra.DataDir);
+        return;
+    } catch (const RuntimeError &) {
+        // It has been reported.
+    }
+    try {
+        const QString current = platform.files.currentDirectory();
+        frm.dirSelect.show(*platform.files.directory(current, platform::Reading::Anew));
+    } catch (const RuntimeError &) {
+        // The drive list is left.
+    }
+}
+
 void openDataDirectory(Panel &panel)
 {
     // Each statement that fails reports, and the next one is tried with the program directory.
@@ -162,6 +182,8 @@ void openDataDirectory(Panel &panel)
     if (directory.endsWith(u'\\'))
         directory.chop(1);
     attempt([&panel] { browser::openDirectory(panel, panel.kinovra.DataDir); });
+    if (panel.frm.dirSelect.Path().isEmpty())
+        showSomeDirectory(panel);
 }
 
 void openGraphTypes(Panel &panel)

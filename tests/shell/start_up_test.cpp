@@ -360,6 +360,22 @@ TEST_F(StartUp, reports_each_statement_that_fails_and_tries_the_next)
     EXPECT_EQ(machine.dialogs.messages[4], NoGraphs);
     EXPECT_EQ(machine.dialogs.messages[5].icon, Icon::Critical);
     EXPECT_EQ(kinovra.DataDir, u"Q:\\KV"_s);
+    EXPECT_EQ(frm.dirSelect.Path(), u"C:\\DATA"_s) << "the current directory's rows are the way out";
+}
+
+TEST_F(StartUp, shows_the_program_directory_where_the_data_directory_can_be_entered_but_not_read)
+{
+    machine.files.addDirectory(u"C:\\SECRET"_s);
+    machine.settings.stored(u"Datadir"_s, u"C:\\SECRET"_s);
+    machine.files.beforeCall = [this](const QString &call) {
+        if (call == u"directory" && kinovra.DataDir == u"C:\\SECRET")
+            throw platform::RuntimeError(platform::ErrorNumber::PathFileAccess);
+    };
+    start();
+    EXPECT_THAT(machine.dialogs.messages, ElementsAre(NoDataDirectory));
+    EXPECT_EQ(kinovra.DataDir, u"C:\\KINOVRA"_s);
+    EXPECT_EQ(frm.dirSelect.Path(), u"C:\\KINOVRA"_s);
+    EXPECT_EQ(machine.files.currentDirectory(), u"C:\\KINOVRA"_s);
 }
 
 TEST_F(StartUp, runs_no_drive_handler_and_the_directory_handler_once)
