@@ -34,7 +34,8 @@ void EventLoopClock::letEventsRunUntil(double until)
     timer.setSingleShot(true);
     timer.setTimerType(Qt::PreciseTimer);
     QObject::connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
-    timer.start(static_cast<int>(std::ceil(wait * MillisecondsPerSecond)));
+    // A millisecond more than the whole ones: the difference of two times may be a hair too small.
+    timer.start(static_cast<int>(std::floor(wait * MillisecondsPerSecond)) + 1);
     // The end of the program leaves this loop too.
     loop.exec();
 }

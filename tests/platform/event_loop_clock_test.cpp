@@ -80,6 +80,19 @@ TEST(EventLoopClock, may_pause_within_a_pause)
     EXPECT_GE(innerEnd, innerUntil) << "the inner pause lasts longer, and the outer one waits for it";
 }
 
+// 0.001 and 0.035 make a hair more than 0.036, as do the other three here.
+TEST(EventLoopClock, ends_no_pause_a_hair_too_early)
+{
+    for (const double begin : {0.001, 0.002, 0.003, 0.004}) {
+        platform::EventLoopClock clock;
+        while (clock.seconds() < begin)
+            continue;
+        const double until = clock.seconds() + 0.035;
+        clock.letEventsRunUntil(until);
+        EXPECT_GE(clock.seconds(), until);
+    }
+}
+
 TEST(EventLoopClock, leaves_its_pauses_when_the_program_ends)
 {
     platform::EventLoopClock clock;
