@@ -149,11 +149,17 @@ StartedProgram::StartedProgram(const Start &start) : process_(std::make_unique<P
     startup.hStdError = err.writeEnd.get();
     std::wstring line = wideText(commandLineOf(start.words));
     PROCESS_INFORMATION started{};
-    if (CreateProcessW(start.program.c_str(), line.data(), nullptr, nullptr, TRUE, 0, nullptr,
-                       start.directory.c_str(), &startup, &started)
-        == 0)
+    const auto begin = [&] {
+        return CreateProcessW(start.program.c_str(), line.data(), nullptr, nullptr, TRUE, 0, nullptr,
+                              start.directory.c_str(), &startup, &started)
+               != 0;
+    };
+    // Wine loses one process of some thousands before it has come up.
+    if (!begin() && (GetLastError() != ERROR_INTERNAL_ERROR || !begin())) {
+        const DWORD error = GetLastError();
         throw std::runtime_error("cannot start " + textOf(start.program) + ": error "
-                                 + std::to_string(GetLastError()));
+                                 + std::to_string(error));
+    }
     CloseHandle(started.hThread);
     process_->process = Handle(started.hProcess);
     process_->out = std::move(out.readEnd);

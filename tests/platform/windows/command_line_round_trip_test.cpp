@@ -139,9 +139,7 @@ protected:
     {
         const support::SystemVariable variable(u"ECHO_NUMBER"_s, QString::number(number));
         start.directory = base;
-        do
-            result = programs.start(start);
-        while (isLostByWine());
+        result = startUnlessLost(start);
         EXPECT_EQ(result.failure, QString())
             << number << ' ' << platform::windowsCommandLine(start).toStdString();
         if (!result.failure.isEmpty())
@@ -150,13 +148,6 @@ protected:
         ++started;
         if (started > AtOnce)
             waitForEnds(started - AtOnce);
-    }
-
-    // One process of some thousands does not come up there.
-    bool isLostByWine()
-    {
-        constexpr int MostLost = 10;
-        return support::isWine() && result.failure == u"Internal error" && ++lost <= MostLost;
     }
 
     std::map<int, Echo> echoes()
@@ -181,7 +172,6 @@ protected:
     const QStringList names{u"plain.exe"_s, u"with blank.exe"_s, u"Program Files\\kv & ä 🏃.exe"_s,
                             u"bin\\100%.exe"_s, u"bin\\it's;a,b=c^d.exe"_s};
     size_t started = 0;
-    int lost = 0;
 };
 
 } // namespace

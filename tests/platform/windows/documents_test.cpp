@@ -101,7 +101,7 @@ TEST_F(Documents, may_be_the_directory_itself)
     const Association open(u"Folder\\shell\\open\\command"_s, echoing());
     Start start = document(QString());
     start.verb = u"explore"_s;
-    result = programs.start(start);
+    result = startUnlessLost(start);
     EXPECT_EQ(result.failure, QString());
     waitForEnds(1);
     ASSERT_EQ(records().size(), 1U);

@@ -48,11 +48,20 @@ Start WindowsStarts::document(const QString &name) const
     return {.verb = u"open"_s, .file = name, .directory = base, .target = Target::Document};
 }
 
+platform::StartResult WindowsStarts::startUnlessLost(const Start &start)
+{
+    constexpr int MostLost = 10;
+    platform::StartResult started = programs.start(start);
+    while (support::isWine() && started.failure == u"Internal error" && ++lost <= MostLost)
+        started = programs.start(start);
+    return started;
+}
+
 Echo WindowsStarts::run(const Start &start)
 {
     const size_t before = records().size();
     const size_t endsBefore = ends.size();
-    result = programs.start(start);
+    result = startUnlessLost(start);
     EXPECT_EQ(result.failure, QString());
     if (!result.failure.isEmpty())
         return {};
@@ -85,7 +94,7 @@ std::vector<Echo> WindowsStarts::records() const
 void WindowsStarts::expectFailure(const Start &start, const QString &why, double value)
 {
     const size_t before = records().size();
-    result = programs.start(start);
+    result = startUnlessLost(start);
     EXPECT_EQ(result.failure, why) << start.file.toStdString();
     EXPECT_EQ(result.value, value) << start.file.toStdString();
     EXPECT_EQ(records().size(), before) << start.file.toStdString();

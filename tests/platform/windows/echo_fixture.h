@@ -42,6 +42,8 @@ protected:
     platform::Start direct(const QString &file, const platform::CommandText &parameters = {}) const;
     platform::Start document(const QString &name) const;
 
+    /// Starts, once more where Wine has lost the process: one of some thousands does not come up there.
+    platform::StartResult startUnlessLost(const platform::Start &start);
     /// Starts and waits for the end; what the echo program recorded, once.
     Echo run(const platform::Start &start);
     void waitForEnds(size_t count);
@@ -58,6 +60,7 @@ protected:
     platform::host::WindowsPrograms programs{files};
     std::vector<Ended> ends;
     platform::StartResult result;
+    int lost = 0;
 };
 
 } // namespace platform_tests

@@ -25,7 +25,7 @@ protected:
         Start start = direct(support::testDirectory() + u"\\echo_loader.exe"_s, u" "_s + arguments);
         start.directory = at(u"data"_s);
         const size_t before = ends.size();
-        EXPECT_EQ(programs.start(start).failure, QString());
+        EXPECT_EQ(startUnlessLost(start).failure, QString());
         waitForEnds(before + 1);
         return ends.back().ending.code;
     }

@@ -80,7 +80,8 @@ TEST_F(ProgramSearch, goes_on_behind_an_entry_of_the_path_that_is_no_directory)
     for (const QString &odd :
          {u"C:\\a:b"_s, u"C:\\http://x"_s, u"C:\\*?<>|"_s, u"C:\\\\\\"_s, u"C:\\"_s + QString(4'000, u'x')}) {
         const SystemVariable variable(u"PATH"_s, odd + u';' + at(u"bin"_s));
-        EXPECT_EQ(programs.start(inData(direct(u"my-editor.exe"_s))).failure, QString()) << odd.toStdString();
+        EXPECT_EQ(startUnlessLost(inData(direct(u"my-editor.exe"_s))).failure, QString())
+            << odd.toStdString();
     }
 }
 
@@ -192,7 +193,7 @@ TEST_F(ProgramSearch, starts_the_command_processor_for_command_com)
     for (const Start &start : {inData(direct(u"COMMAND.COM"_s, u" /c exit 5"_s)),
                                inData(open(u"command.com"_s, u"/c exit 5"_s))}) {
         const size_t before = ends.size();
-        EXPECT_EQ(programs.start(start).failure, QString());
+        EXPECT_EQ(startUnlessLost(start).failure, QString());
         waitForEnds(before + 1);
         EXPECT_EQ(ends.back().ending.code, 5);
     }
@@ -213,7 +214,7 @@ TEST_F(ProgramSearch, takes_no_planted_command_processor)
     install(u"data\\cmd.exe"_s);
     const SystemVariable variable(u"PATH"_s, data);
     const size_t before = ends.size();
-    EXPECT_EQ(programs.start(inData(direct(u"command.com"_s, u" /c exit 6"_s))).failure, QString());
+    EXPECT_EQ(startUnlessLost(inData(direct(u"command.com"_s, u" /c exit 6"_s))).failure, QString());
     waitForEnds(before + 1);
     EXPECT_EQ(ends.back().ending.code, 6);
     EXPECT_TRUE(records().empty());

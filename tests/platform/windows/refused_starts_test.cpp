@@ -87,7 +87,7 @@ TEST_F(RefusedStarts, are_those_of_programs_that_are_cut_off)
     scratch.makeFile("signature.exe", headOfProgram());
     for (const QString &name : {u"head.exe"_s, u"start.exe"_s, u"half.exe"_s, u"signature.exe"_s}) {
         for (const Start &start : {direct(at(name)), open(at(name))}) {
-            result = programs.start(start);
+            result = startUnlessLost(start);
             EXPECT_TRUE(result.failure == NotOfThisSystem || result.failure == NoProgram)
                 << name.toStdString() << ": " << result.failure.toStdString();
             EXPECT_EQ(result.value, start.verb.isEmpty() ? 0 : 11) << name.toStdString();
@@ -121,7 +121,7 @@ TEST_F(RefusedStarts, are_those_of_texts_for_a_shell_that_begin_like_a_program)
         scratch.makeFile(name, "MZ=1;\r\necho x>\"%ECHO_FILE%\"\r\n" + QByteArray(200, ' '));
         for (const Start &start :
              {direct(at(QString::fromLatin1(name))), open(at(QString::fromLatin1(name)))}) {
-            result = programs.start(start);
+            result = startUnlessLost(start);
             EXPECT_TRUE(result.failure == NotOfThisSystem || result.failure == NoProgram)
                 << name << ": " << result.failure.toStdString();
             EXPECT_EQ(result.value, start.verb.isEmpty() ? 0 : 11) << name;
