@@ -2,6 +2,7 @@
 
 #include "echo_fixture.h"
 #include "platform/windows/program_search.h"
+#include "platform/windows/system_starts.h"
 #include "printing.h"
 
 using namespace Qt::StringLiterals;
@@ -222,5 +223,32 @@ TEST_F(RefusedStarts, are_those_of_addresses_that_are_not_on_the_safe_web)
         Start start = open(address);
         start.target = Target::Address;
         expectFailure(start, u"it is not an https address"_s, 2);
+    }
+}
+
+// Most of them only a machine in trouble gives.
+TEST_F(RefusedStarts, say_what_the_systems_error_means)
+{
+    struct Row
+    {
+        quint32 systemError;
+        QString why;
+        double value;
+    };
+    for (const Row &row : {Row{ERROR_FILE_NOT_FOUND, u"it was not found"_s, 2},
+                           Row{ERROR_PATH_NOT_FOUND, u"it was not found"_s, 2},
+                           Row{ERROR_ACCESS_DENIED, u"permission was denied"_s, 5},
+                           Row{ERROR_SHARING_VIOLATION, u"permission was denied"_s, 5},
+                           Row{ERROR_BAD_EXE_FORMAT, NotOfThisSystem, 11},
+                           Row{ERROR_EXE_MACHINE_TYPE_MISMATCH, NotOfThisSystem, 11},
+                           Row{ERROR_INVALID_EXE_SIGNATURE, NotOfThisSystem, 11},
+                           Row{740, u"it asks for the rights of an administrator"_s, 5},
+                           Row{ERROR_NO_ASSOCIATION, u"this system has nothing to open it with"_s, 31},
+                           Row{ERROR_CANCELLED, u"it was cancelled"_s, 5},
+                           Row{ERROR_FILENAME_EXCED_RANGE, u"its command line is too long"_s, 2}}) {
+        const platform::host::Started started = platform::host::notStarted(row.systemError);
+        EXPECT_EQ(started.failure, row.why);
+        EXPECT_EQ(started.failureValue, row.value) << row.why.toStdString();
+        EXPECT_FALSE(started.process.isValid());
     }
 }
