@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QProxyStyle>
 #include <QScopedValueRollback>
+#include <QShortcutEvent>
 #include <QStyleOption>
 #include <QTimer>
 
@@ -25,8 +26,9 @@ namespace {
 
 constexpr std::chrono::milliseconds Rest{400};
 
-/// Lets greyed items be pointed at, with the keyboard too, so that they can say why they are greyed.
-class GreyedItemsCanBePointedAt : public QProxyStyle
+/// Lets greyed items be pointed at, with the keyboard too, so that they can say why they are greyed, and
+/// shows which title of the bar has the keyboard.
+class MenuStyle : public QProxyStyle
 {
 public:
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
@@ -47,6 +49,15 @@ public:
             constexpr int Faint = 50;
             shade.setAlpha(Faint);
             painter->fillRect(option->rect, shade);
+        }
+        const auto *title = qstyleoption_cast<const QStyleOptionMenuItem *>(option);
+        if (element == CE_MenuBarItem && title && title->state.testFlag(State_Selected) && widget
+            && widget->hasFocus()) {
+            // Most styles mark the title of an open menu only.
+            QStyleOptionMenuItem marked(*title);
+            marked.state |= State_Sunken;
+            QProxyStyle::drawControl(element, &marked, painter, widget);
+            return;
         }
         QProxyStyle::drawControl(element, option, painter, widget);
     }
@@ -73,7 +84,7 @@ Menus::Menus(QMenuBar *bar, EventRunner &events, std::vector<MenuLine> lines)
     , bar_(bar)
     , events_(events)
     , lines_(std::move(lines))
-    , style_(new GreyedItemsCanBePointedAt)
+    , style_(new MenuStyle)
     , rest_(new QTimer(this))
 {
     style_->setParent(this);
@@ -81,6 +92,8 @@ Menus::Menus(QMenuBar *bar, EventRunner &events, std::vector<MenuLine> lines)
     rest_->setSingleShot(true);
     rest_->setInterval(Rest);
     rest_->callOnTimeout(this, &Menus::askWhereTheUserRests);
+    bar_->setStyle(style_);
+    bar_->installEventFilter(this);
     build();
 }
 
@@ -208,7 +221,58 @@ void Menus::asks(QMenu *menu, controls::MenuItem &item)
     if (!item.OpensAfterAsking || events_.panel().unloading)
         return;
     const QScopedValueRollback reopening(reopening_, true);
-    bar_->setActiveAction(menu->menuAction());
+    openAlone(menu->menuAction());
+}
+
+// The bar gives the focus back only where it has opened the menu for the keyboard itself.
+void Menus::openAlone(QAction *title)
+{
+    // The window's own; it may not be active again yet.
+    returnTo_ = bar_->window()->focusWidget();
+    bar_->setActiveAction(title);
+}
+
+void Menus::returnFocus()
+{
+    if (bar_->hasFocus() && returnTo_)
+        returnTo_->setFocus(Qt::MenuBarFocusReason);
+    returnTo_ = nullptr;
+}
+
+// Titles share letters. The first one is meant, each time; and the next one where the keyboard is on the
+// first.
+bool Menus::openFirstOf(const QKeySequence &key)
+{
+    QList<QAction *> titles;
+    const auto actions = bar_->actions();
+    for (QAction *title : actions) {
+        if (title->isVisible() && title->isEnabled() && QKeySequence::mnemonic(title->text()) == key)
+            titles.append(title);
+    }
+    if (titles.isEmpty())
+        return false;
+    const qsizetype next = (titles.indexOf(bar_->activeAction()) + 1) % titles.size();
+    const bool isInBar = bar_->hasFocus();
+    const QPointer<QWidget> before = returnTo_;
+    openAlone(titles[next]);
+    if (isInBar)
+        returnTo_ = before;
+    titles[next]->menu()->setActiveAction(titles[next]->menu()->actions().value(0));
+    return true;
+}
+
+bool Menus::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Shortcut) {
+        const auto *shortcut = static_cast<QShortcutEvent *>(event);
+        if (shortcut->isAmbiguous() && openFirstOf(shortcut->key()))
+            return true;
+    }
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+        bar_->update();
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape)
+        QMetaObject::invokeMethod(this, &Menus::returnFocus, Qt::QueuedConnection);
+    return QObject::eventFilter(watched, event);
 }
 
 // The bar gives the focus back to where it was for the Escape key alone.

@@ -4,10 +4,12 @@
 #include "views/bindings.h"
 
 #include <QObject>
+#include <QPointer>
 
 #include <vector>
 
 class QAction;
+class QKeySequence;
 class QMenu;
 class QMenuBar;
 class QStyle;
@@ -36,6 +38,8 @@ public:
     /// The access keys of the menu bar, in upper case.
     QString accessKeys() const { return accessKeys_; }
 
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void build();
     bool isMenu(size_t line) const;
@@ -47,6 +51,9 @@ private:
     void askWhereTheUserRests();
     void asks(QMenu *menu, controls::MenuItem &item);
     void leaveBar();
+    void openAlone(QAction *title);
+    bool openFirstOf(const QKeySequence &key);
+    void returnFocus();
 
     QMenuBar *bar_;
     EventRunner &events_;
@@ -59,6 +66,8 @@ private:
     controls::MenuItem *submenuItem_ = nullptr;
     bool passing_ = false;   ///< another menu has just closed: the user passes along the menu bar
     bool reopening_ = false; ///< a menu opens again after its question
+    QPointer<QWidget>
+        returnTo_; ///< what had the focus before a menu was opened that the bar does not know of
 };
 
 } // namespace views

@@ -189,6 +189,68 @@ TEST_F(MenuViews, ask_with_all_menus_closed_and_open_again_afterwards)
     EXPECT_EQ(messages().size(), 1);
 }
 
+TEST_F(MenuViews, give_the_focus_back_though_a_question_came_between)
+{
+    machine.files.remove(u"C:\\DATA\\walk1.cfb"_s);
+    machine.files.remove(u"C:\\DATA\\run1.cfb"_s);
+    click(frm.cmdRefresh);
+    QListView *datafiles = list(u"Data files"_s);
+    datafiles->setFocus();
+    machine.dialogs.answers = {platform::No};
+    QTest::keyClick(&window(), Qt::Key_P, Qt::AltModifier);
+    EXPECT_TRUE(waitUntil([this] { return messages().size() == 1; }));
+    settle();
+    ASSERT_TRUE(menu(u"&Programs"_s)->isVisible());
+    QTest::keyClick(menu(u"&Programs"_s), Qt::Key_Escape);
+    EXPECT_TRUE(bar()->hasFocus());
+    QTest::keyClick(bar(), Qt::Key_Escape);
+    settle();
+    EXPECT_TRUE(datafiles->hasFocus());
+}
+
+TEST_F(MenuViews, that_share_a_letter_open_the_first_one_each_time)
+{
+    QListView *datafiles = list(u"Data files"_s);
+    datafiles->setFocus();
+    for (int i = 0; i < 3; ++i) {
+        QTest::keyClick(&window(), Qt::Key_A, Qt::AltModifier);
+        settle();
+        ASSERT_TRUE(menu(u"&Average ..."_s)->isVisible());
+        EXPECT_EQ(menu(u"&Average ..."_s)->activeAction(), menu(u"&Average ..."_s)->actions().front());
+        QTest::keyClick(menu(u"&Average ..."_s), Qt::Key_Escape);
+        QTest::keyClick(bar(), Qt::Key_Escape);
+        settle();
+        EXPECT_TRUE(datafiles->hasFocus());
+    }
+}
+
+TEST_F(MenuViews, that_share_a_letter_open_the_next_one_where_the_keyboard_is_on_the_first)
+{
+    QListView *datafiles = list(u"Data files"_s);
+    datafiles->setFocus();
+    QTest::keyClick(&window(), Qt::Key_M, Qt::AltModifier);
+    QTest::keyClick(menu(u"&Model"_s), Qt::Key_Escape);
+    QTest::keyClick(&window(), Qt::Key_M, Qt::AltModifier);
+    settle();
+    ASSERT_TRUE(menu(u"&Manuals"_s)->isVisible());
+    QTest::keyClick(menu(u"&Manuals"_s), Qt::Key_Escape);
+    QTest::keyClick(bar(), Qt::Key_Escape);
+    settle();
+    EXPECT_TRUE(datafiles->hasFocus());
+}
+
+TEST_F(MenuViews, show_which_title_has_the_keyboard)
+{
+    const QImage unmarked = bar()->grab().toImage();
+    QTest::keyClick(&window(), Qt::Key_P, Qt::AltModifier);
+    settle();
+    QTest::keyClick(menu(u"&Programs"_s), Qt::Key_Escape);
+    EXPECT_NE(bar()->grab().toImage(), unmarked);
+    QTest::keyClick(bar(), Qt::Key_Escape);
+    settle();
+    EXPECT_EQ(bar()->grab().toImage(), unmarked);
+}
+
 TEST_F(MenuViews, stay_closed_where_there_is_nothing_to_be_chosen_without_a_trial)
 {
     bool menuOpen = true;
