@@ -10,6 +10,11 @@ void EventRunner::run(const controls::Event &event)
     shell::dispatch(panel_, event);
 }
 
+void EventRunner::runMeanwhile(const controls::Event &event)
+{
+    shell::dispatch(panel_, event);
+}
+
 void EventRunner::runPending()
 {
     for (const auto &runHeldBack : holders_)

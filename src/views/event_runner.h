@@ -18,6 +18,9 @@ public:
     /// Runs what is held back, then `event`.
     void run(const controls::Event &event);
 
+    /// Runs `event` and leaves what is held back waiting: for what happens while the user is still choosing.
+    void runMeanwhile(const controls::Event &event);
+
     /// Runs what is held back.
     void runPending();
 

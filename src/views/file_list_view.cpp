@@ -1,6 +1,6 @@
 #include "views/file_list_view.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
@@ -92,6 +92,7 @@ void FileListView::currentChanged(const QModelIndex &current, const QModelIndex 
     ClassicList::currentChanged(current, previous);
     if (showing_ || !current.isValid())
         return;
+    isClicked_ = false;
     list_.ListIndex = current.row();
     holdBackClick();
 }
@@ -108,6 +109,7 @@ void FileListView::focusInEvent(QFocusEvent *event)
 void FileListView::focusOutEvent(QFocusEvent *event)
 {
     arrowKeyIsUp();
+    isClicked_ = false;
     ClassicList::focusOutEvent(event);
 }
 
@@ -121,7 +123,7 @@ void FileListView::keyPressEvent(QKeyEvent *event)
         if (isSpace)
             pressSpace();
         else
-            events_.run(manners_.choosing ? list_.Click : list_.DblClick);
+            pressEnter();
         return;
     }
     if (manners_.choosing && event->key() == Qt::Key_Escape) {
@@ -130,6 +132,7 @@ void FileListView::keyPressEvent(QKeyEvent *event)
     }
     rest_.stop();
     keyDown_ = true;
+    typing_ = !event->text().isEmpty() && event->text().front().isPrint();
     const bool enters = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
     if (!enters || list_.ListIndex >= 0)
         ClassicList::keyPressEvent(event);
@@ -151,6 +154,27 @@ void FileListView::pressSpace()
     runHeldBack();
 }
 
+// As a double-click, whose first click chooses the row; one that arrow keys have clicked is not clicked
+// again.
+void FileListView::pressEnter()
+{
+    if (list_.ListIndex < 0 && currentIndex().isValid())
+        selectByUser(currentIndex().row());
+    if (manners_.choosing) {
+        events_.run(list_.Click);
+        return;
+    }
+    if (list_.ListIndex >= 0 && !heldBack_ && !isClicked_)
+        click();
+    events_.run(list_.DblClick);
+}
+
+void FileListView::click()
+{
+    isClicked_ = true;
+    events_.run(list_.Click);
+}
+
 void FileListView::keyReleaseEvent(QKeyEvent *event)
 {
     if (!event->isAutoRepeat())
@@ -162,7 +186,13 @@ void FileListView::arrowKeyIsUp()
 {
     keyDown_ = false;
     if (heldBack_)
-        rest_.start(RestTime, this);
+        rest_.start(restTime(), this);
+}
+
+// Who types a name looks for the next letter meanwhile.
+int FileListView::restTime() const
+{
+    return typing_ ? std::max(RestTime, QApplication::keyboardInputInterval()) : RestTime;
 }
 
 void FileListView::holdBackClick()
@@ -171,7 +201,7 @@ void FileListView::holdBackClick()
         return;
     heldBack_ = true;
     if (!keyDown_)
-        rest_.start(RestTime, this);
+        rest_.start(restTime(), this);
 }
 
 void FileListView::runHeldBack()
@@ -180,7 +210,7 @@ void FileListView::runHeldBack()
     if (!heldBack_)
         return;
     heldBack_ = false;
-    events_.run(list_.Click);
+    click();
 }
 
 void FileListView::timerEvent(QTimerEvent *event)
@@ -212,10 +242,10 @@ void FileListView::press(QMouseEvent *event, bool twice)
     const QModelIndex aimed = indexAt(event->position().toPoint());
     const QString underPointer = aimed.isValid() ? model_.names().at(aimed.row()) : QString();
     const QString name = twice && !pressedName_.isEmpty() ? pressedName_ : underPointer;
-    const Qt::MouseButtons down = QGuiApplication::mouseButtons();
+    const Qt::MouseButtons down = QApplication::mouseButtons();
     events_.runPending();
     // A box came between, and took the release.
-    if (QGuiApplication::mouseButtons() != down)
+    if (QApplication::mouseButtons() != down)
         return;
     setFocus(Qt::MouseFocusReason);
 
@@ -258,7 +288,10 @@ void FileListView::mouseReleaseEvent(QMouseEvent *event)
     if (event->button() != Qt::LeftButton || press_ == Press::None)
         return;
     press_ = Press::None;
-    events_.run(twice_ ? list_.DblClick : list_.Click);
+    if (twice_)
+        events_.run(list_.DblClick);
+    else
+        click();
 }
 
 } // namespace views

@@ -19,7 +19,7 @@ struct FileListManners
 };
 
 /// A classic file list. A click on a row is a Click even where the row is selected already; an empty list
-/// clicks anywhere; arrow keys click where they come to rest; Enter is a double-click.
+/// clicks anywhere; keys that move or find click where they come to rest; Enter is a double-click.
 class FileListView : public ClassicList
 {
     Q_OBJECT
@@ -50,9 +50,12 @@ private:
     void showSelection();
     void press(QMouseEvent *event, bool twice);
     void pressSpace();
+    void pressEnter();
+    void click();
     void selectByUser(int row);
     void holdBackClick();
     void arrowKeyIsUp();
+    int restTime() const;
     void runHeldBack();
 
     controls::FileList &list_;
@@ -62,6 +65,8 @@ private:
     Bindings bindings_;
     QBasicTimer rest_;          ///< runs while an arrow key's click is waiting for the key to come to rest
     bool heldBack_ = false;     ///< a click is waiting
+    bool isClicked_ = false;    ///< the selected row was clicked, and nothing but this list was used since
+    bool typing_ = false;       ///< the last key was of a name that is being typed
     bool keyDown_ = false;      ///< an arrow key is held down
     bool showing_ = false;      ///< the selection changes because the control's did
     bool twice_ = false;        ///< the press was the second one of a double-click

@@ -15,6 +15,11 @@ constexpr int HelpKey = 47;
 constexpr int QuestionMark = 63;
 constexpr int F1 = 112;
 
+bool isCharacter(int key)
+{
+    return (key >= Qt::Key_A && key <= Qt::Key_Z) || (key >= Qt::Key_0 && key <= Qt::Key_9);
+}
+
 // The classic code of a key; letters and digits have their own.
 int keyCodeOf(int key)
 {
@@ -28,8 +33,14 @@ int keyCodeOf(int key)
     }
     if (key >= Qt::Key_F1 && key <= Qt::Key_F12)
         return F1 + key - Qt::Key_F1;
-    const bool isOwn = (key >= Qt::Key_A && key <= Qt::Key_Z) || (key >= Qt::Key_0 && key <= Qt::Key_9);
-    return isOwn ? key : 0;
+    return isCharacter(key) ? key : 0;
+}
+
+// A plain letter or digit finds a name in a list, where the user goes on typing.
+bool findsNames(int keyCode, int shift)
+{
+    constexpr int ShiftHeld = 1;
+    return isCharacter(keyCode) && (shift == 0 || shift == ShiftHeld);
 }
 
 int shiftOf(Qt::KeyboardModifiers modifiers)
@@ -90,8 +101,13 @@ void KeyPreview::released(const QKeyEvent *event)
         return;
     const Pressed key = *found;
     pressed_.erase(found);
-    if (key.keyCode != 0)
-        events_.run([this, key] { events_.panel().frm.KeyUp(key.keyCode, key.shift); });
+    if (key.keyCode == 0)
+        return;
+    const auto keyUp = [this, key] { events_.panel().frm.KeyUp(key.keyCode, key.shift); };
+    if (findsNames(key.keyCode, key.shift))
+        events_.runMeanwhile(keyUp);
+    else
+        events_.run(keyUp);
 }
 
 } // namespace views

@@ -199,6 +199,51 @@ TEST_F(FileListViews, find_names_by_typing)
     EXPECT_EQ(kinovra.CurrentTrial, u"c"_s);
 }
 
+TEST_F(FileListViews, wait_with_the_click_for_the_rest_of_a_name_that_is_typed)
+{
+    ASSERT_TRUE(frm.KeyPreview);
+    const int usual = QApplication::keyboardInputInterval();
+    QApplication::setKeyboardInputInterval(1'000);
+    datafiles()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(window().windowHandle(), Qt::Key_C);
+    EXPECT_EQ(frm.filDatafiles.ListIndex.value(), 2);
+    QTest::qWait(400);
+    EXPECT_EQ(datafileClicks, 0);
+    QTest::keyClick(window().windowHandle(), Qt::Key_Period);
+    EXPECT_TRUE(waitUntil([this] { return datafileClicks == 1; }));
+    EXPECT_EQ(kinovra.CurrentTrial, u"c"_s);
+    QApplication::setKeyboardInputInterval(usual);
+}
+
+TEST_F(FileListViews, choose_by_enter_what_is_framed)
+{
+    EXPECT_EQ(frm.filDatafiles.ListIndex.value(), -1);
+    datafiles()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(datafiles(), Qt::Key_Return);
+    EXPECT_EQ(kinovra.CurrentTrial, u"a"_s);
+    EXPECT_EQ(datafileClicks, 1);
+
+    QListView *plots = list(u"Graphs (.PLT)"_s);
+    plots->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(plots, Qt::Key_Return);
+    EXPECT_EQ(frm.SelectedPlot, u"one.plt"_s);
+    EXPECT_EQ(machine.programs.started.size(), 1U);
+}
+
+TEST_F(FileListViews, choose_by_enter_again_what_was_left_meanwhile)
+{
+    datafiles()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(datafiles(), Qt::Key_Down);
+    EXPECT_TRUE(waitUntil([this] { return datafileClicks == 1; }));
+    QTest::keyClick(datafiles(), Qt::Key_Return);
+    EXPECT_EQ(datafileClicks, 1) << "it is chosen";
+    kinovra.CurrentTrial = u"new"_s;
+    button(u"Exit"_s)->setFocus(Qt::TabFocusReason);
+    datafiles()->setFocus(Qt::BacktabFocusReason);
+    QTest::keyClick(datafiles(), Qt::Key_Return);
+    EXPECT_EQ(kinovra.CurrentTrial, u"a"_s);
+}
+
 TEST_F(FileListViews, choose_nothing_by_getting_the_focus)
 {
     for (auto reason : {Qt::TabFocusReason, Qt::BacktabFocusReason, Qt::OtherFocusReason}) {
@@ -401,6 +446,13 @@ TEST_F(GraphTypes, are_only_highlighted_by_arrow_keys)
 TEST_F(GraphTypes, are_found_by_typing_and_chosen_by_enter)
 {
     QTest::keyClick(types(), Qt::Key_A);
+    QTest::keyClick(types(), Qt::Key_Return);
+    settle();
+    EXPECT_EQ(frm.CurrentGRA, u"ANGLES.GRA"_s);
+}
+
+TEST_F(GraphTypes, are_chosen_by_enter_where_one_is_only_framed)
+{
     QTest::keyClick(types(), Qt::Key_Return);
     settle();
     EXPECT_EQ(frm.CurrentGRA, u"ANGLES.GRA"_s);
