@@ -18,6 +18,12 @@ bool turnsDirection(char16_t unit)
            || (unit >= 0x2066 && unit <= 0x2069);
 }
 
+// What no screen shows, so that two names would look the same. Joiners stay: some scripts need them.
+bool isInvisible(char16_t unit)
+{
+    return unit == 0x00AD || unit == 0x034F || unit == 0x200B || unit == 0x2060 || unit == 0xFEFF;
+}
+
 char16_t shown(char16_t unit)
 {
     if (unit < 0x20)
@@ -28,8 +34,8 @@ char16_t shown(char16_t unit)
         return QChar::ReplacementCharacter;
     if (unit == PrivateArea + u'\\' || unit == PrivateArea + u':' || unit == PrivateArea + u'"')
         return char16_t(unit - PrivateArea);
-    const bool strange =
-        (unit >= 0x80 && unit <= 0x9F) || unit == 0x2028 || unit == 0x2029 || turnsDirection(unit);
+    const bool strange = (unit >= 0x80 && unit <= 0x9F) || unit == 0x2028 || unit == 0x2029
+                         || turnsDirection(unit) || isInvisible(unit);
     return strange ? char16_t(QChar::ReplacementCharacter) : unit;
 }
 

@@ -10,6 +10,8 @@ constexpr char16_t FormFeed = 0x0C;
 constexpr char16_t NextLine = 0x85;
 constexpr char16_t LineSeparator = 0x2028;
 constexpr char16_t ParagraphSeparator = 0x2029;
+constexpr char16_t LeftToRightOverride = 0x202D;
+constexpr char16_t RightToLeftOverride = 0x202E;
 constexpr char16_t Delete = 0x7F;
 constexpr char16_t ControlPictures = 0x2400;
 constexpr char16_t PictureOfDelete = 0x2421;
@@ -27,7 +29,10 @@ char16_t picture(char16_t unit)
         return char16_t(ControlPictures + unit);
     if (unit == Delete)
         return PictureOfDelete;
-    return unit >= 0x80 && unit <= 0x9F ? char16_t(QChar::ReplacementCharacter) : unit;
+    // An override of the direction would show letters in another order than the file's.
+    const bool strange =
+        (unit >= 0x80 && unit <= 0x9F) || unit == LeftToRightOverride || unit == RightToLeftOverride;
+    return strange ? char16_t(QChar::ReplacementCharacter) : unit;
 }
 
 // The carriage returns from `at` on.

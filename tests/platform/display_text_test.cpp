@@ -24,6 +24,15 @@ TEST(DisplayText, does_not_let_a_name_turn_the_reading_direction)
     EXPECT_EQ(displayText(u"\u200Fa\u2066b"_s), u"\uFFFDa\uFFFDb"_s);
 }
 
+TEST(DisplayText, tells_names_apart_that_differ_in_what_no_screen_shows)
+{
+    EXPECT_EQ(displayText(u"a\u200Bb\u00ADc\u2060d\uFEFFe\u034Ff.dg"_s),
+              u"a\uFFFDb\uFFFDc\uFFFDd\uFFFDe\uFFFDf.dg"_s);
+    EXPECT_EQ(displayText(u"\u0645\u06CC\u200C\u062E\u0648\u0627\u0647\u0645 \u0915\u094D\u200D\u0937"_s),
+              u"\u0645\u06CC\u200C\u062E\u0648\u0627\u0647\u0645 \u0915\u094D\u200D\u0937"_s)
+        << "joiners are a part of the word";
+}
+
 TEST(DisplayText, shows_what_private_characters_stand_for)
 {
     EXPECT_EQ(displayText(u"a\uF03Ab\uF05Cc\uF022d\uF0E9"_s), u"a:b\\c\"d\uFFFD"_s);

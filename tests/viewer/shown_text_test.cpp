@@ -61,6 +61,11 @@ TEST(ShownText, shows_what_the_windows_code_page_leaves_open_as_unknown)
     EXPECT_EQ(shownText(u"a\u0080b\u009Fc\u00A0d"_s), u"a\uFFFDb\uFFFDc\u00A0d"_s);
 }
 
+TEST(ShownText, lets_no_text_turn_the_order_of_its_letters)
+{
+    EXPECT_EQ(shownText(u"abc \u202Etxt.exe\u202C \u202Dxyz"_s), u"abc \uFFFDtxt.exe\u202C \uFFFDxyz"_s);
+}
+
 TEST(ShownText, takes_its_time_for_every_character_once)
 {
     const qsizetype many = 16'777'216;
