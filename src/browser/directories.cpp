@@ -35,6 +35,8 @@ void becomeDataDirectory(Panel &panel)
     platform.files.changeDirectory(path);
     kinovra.CurrentTrial.clear();
     kinovra.CurrentExtension.clear();
+    // What was said was of the directory before.
+    shell::say(panel, QString());
     const bool hadBinaryFile = !kinovra.BinaryFile.isEmpty();
     kinovra.BinaryFile.clear();
     if (hadBinaryFile)

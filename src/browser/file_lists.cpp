@@ -27,6 +27,11 @@ void show(controls::FileList &list, controls::Label &label)
     list.Visible = true;
 }
 
+QString unreadable(const QString &path)
+{
+    return u"%1 cannot be read: "_s.arg(platform::shortFormOf(path));
+}
+
 // One reading serves all lists that show the directory.
 void refreshFrom(Panel &panel, const QString &path, const std::vector<FileList *> &lists, Reading reading)
 {
@@ -34,6 +39,8 @@ void refreshFrom(Panel &panel, const QString &path, const std::vector<FileList *
         const auto directory = panel.platform.files.directory(path, reading);
         for (FileList *list : lists)
             list->refresh(directory->files(list->Pattern));
+        if (panel.frm.StatusBar1.Panel1.value().startsWith(unreadable(path)))
+            shell::say(panel, QString());
     } catch (const RuntimeError &error) {
         for (FileList *list : lists)
             list->refresh({});
@@ -65,8 +72,7 @@ void refreshDataDirectory(Panel &panel)
 
 void sayUnreadable(Panel &panel, const QString &path, const RuntimeError &error)
 {
-    shell::say(panel, u"%1 cannot be read: %2."_s.arg(platform::shortFormOf(path),
-                                                      platform::withinSentence(error.Description)));
+    shell::say(panel, unreadable(path) + platform::withinSentence(error.Description) + u'.');
 }
 
 void pointAt(Panel &panel, FileList &list, const QString &path)

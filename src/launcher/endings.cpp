@@ -69,7 +69,7 @@ void programEnded(Panel &panel, double value, const Ending &ending)
     if (!error.isEmpty())
         shell::say(panel, error);
     else if (program.isProgram)
-        browser::refreshResultLists(panel);
+        browser::readChangedDirectories(panel);
     if (error.isEmpty() && listingIsNew(panel, program))
         shell::say(panel, u"%1 is ready."_s.arg(platform::nameOf(program.listing)));
 }

@@ -11,7 +11,7 @@ void watchListing(Panel &panel, double value, const QString &listing,
                   const std::optional<platform::FileStamp> &before);
 
 /// A started program has ended: the status bar says when that was with an error, or that its listing is
-/// ready. One that ended well may have left results, so their lists are refreshed; no handler runs.
+/// ready. One that ended well may have left files, so the lists are refreshed; no handler runs.
 void programEnded(Panel &panel, double value, const platform::Ending &ending);
 
 } // namespace launcher

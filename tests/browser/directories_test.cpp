@@ -319,6 +319,13 @@ TEST_F(Directories, of_a_drive_that_was_pulled_out_are_reported)
     EXPECT_EQ(frm.drvDrives.Drive.value(), u"c: [data]"_s);
 }
 
+TEST_F(Directories, opened_take_back_what_was_said_of_the_one_before)
+{
+    frm.StatusBar1.Panel1 = u"Kinemati.out is ready."_s;
+    open(u"C:\\"_s);
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(), QString());
+}
+
 TEST_F(Directories, opened_say_that_no_binary_file_is_chosen_any_more)
 {
     click(frm.filBinaries, u"run1.km"_s);

@@ -211,6 +211,17 @@ TEST_F(FileLists, of_a_directory_that_is_gone_are_empty_and_the_status_bar_says_
     EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"DATA cannot be read: path not found."_s);
     EXPECT_THAT(machine.dialogs.messages, IsEmpty());
     EXPECT_EQ(kinovra.CurrentTrial, u"RUN1"_s);
+
+    machine.files.addDirectory(u"C:\\DATA"_s);
+    click(frm.cmdRefresh);
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(), QString()) << "it can be read again";
+}
+
+TEST_F(FileLists, refreshed_leave_what_the_status_bar_says_of_something_else)
+{
+    frm.StatusBar1.Panel1 = u"DATA2 cannot be read: path not found."_s;
+    click(frm.cmdRefresh);
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"DATA2 cannot be read: path not found."_s);
 }
 
 TEST_F(FileLists, re_read_their_directory_on_getting_the_focus)

@@ -463,6 +463,7 @@ TEST_F(ProgramEnds, well_and_its_results_are_listed)
     EXPECT_EQ(frm.filBinaries.FileName(), u"a.km"_s);
     EXPECT_EQ(frm.filOutputs.Names.value().toList(), QStringList{u"Kinemati.out"_s});
     EXPECT_EQ(frm.filPlots.Names.value().toList(), (QStringList{u"b.plt"_s, u"Walk1.plt"_s}));
+    EXPECT_TRUE(frm.filDatafiles.Names.value().toList().contains(u"walk2.dg"_s)) << "what was converted";
     EXPECT_FALSE(clicked);
 }
 
