@@ -4,8 +4,8 @@
 
 namespace views {
 
-/// A text on one line that can be selected and copied, and nothing else. Where there is no room for it, the
-/// tool tip shows it whole.
+/// A text on one line that can be selected and copied, and nothing else. Where there is no room for it, an
+/// ellipsis stands in its middle as long as nobody reads on in it, and the tool tip shows it whole.
 class CopyableText : public QLineEdit
 {
     Q_OBJECT
@@ -21,6 +21,11 @@ public:
 
 protected:
     bool event(QEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    bool isCut() const;
 };
 
 } // namespace views

@@ -14,6 +14,7 @@ public:
     explicit ElidedLabel(Qt::TextElideMode mode, QWidget *parent = nullptr);
 
     QSize minimumSizeHint() const override;
+    QSize sizeHint() const override { return minimumSizeHint(); }
 
 protected:
     bool event(QEvent *event) override;

@@ -1,5 +1,6 @@
 #include "printing.h"
 #include "view_fixture.h"
+#include "views/elided_label.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -180,6 +181,42 @@ TEST_F(MainWindowView, lets_the_command_line_be_copied)
     EXPECT_EQ(commandLine()->text(), u"c:\\kinovra\\kinemati.exe /t walk1"_s) << "it is not changed";
 }
 
+TEST_F(MainWindowView, shows_the_end_of_a_long_command_line_as_well)
+{
+    const QString program = u"c:\\"_s + QString(300, u'w');
+    const auto picture = [this](const QString &command) {
+        frm.lblCommand.Caption = command;
+        return commandLine()->grab().toImage();
+    };
+    const QImage first = picture(program + u" WALK1"_s);
+    EXPECT_NE(picture(program + u" WALK2"_s), first);
+    EXPECT_NE(picture(u"d"_s + program.mid(1) + u" WALK1"_s), first) << "and its beginning";
+    EXPECT_EQ(picture(program + u" WALK1"_s), first);
+
+    commandLine()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(commandLine(), Qt::Key_End);
+    EXPECT_NE(commandLine()->cursorPosition(), 0);
+    button(u"Exit"_s)->setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(commandLine()->cursorPosition(), 0);
+}
+
+TEST_F(MainWindowView, passes_by_an_empty_command_line)
+{
+    frm.lblCommand.Caption = QString();
+    EXPECT_EQ(commandLine()->focusPolicy(), Qt::NoFocus);
+    frm.lblCommand.Caption = u"x"_s;
+    EXPECT_EQ(commandLine()->focusPolicy(), Qt::StrongFocus);
+}
+
+TEST_F(MainWindowView, measures_no_long_title)
+{
+    frm.lblTitle.Caption = QString(60'000, QChar(0x0301));
+    const auto labels = window().findChildren<views::ElidedLabel *>();
+    EXPECT_GE(labels.size(), 6);
+    for (const views::ElidedLabel *label : labels)
+        EXPECT_EQ(label->sizeHint(), QSize(0, label->fontMetrics().height())) << label->text().size();
+}
+
 TEST_F(MainWindowView, shows_a_long_command_line_from_its_beginning)
 {
     frm.lblCommand.Caption = u"short"_s;
@@ -329,6 +366,7 @@ TEST_F(MainWindowView, shows_the_whole_name_of_a_row_that_is_cut)
 
 TEST_F(MainWindowView, lets_everything_be_reached_by_tab)
 {
+    frm.lblCommand.Caption = u"kinemati.exe walk1"_s;
     list(u"Data files"_s)->setFocus();
     QStringList reached;
     for (int i = 0; i < 40; ++i) {
