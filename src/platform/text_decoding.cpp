@@ -24,13 +24,16 @@ char16_t fromCodePage1252(char c)
     return byte >= 0x80 && byte <= 0x9F ? Extras[byte - 0x80U] : char16_t(byte);
 }
 
-// Cuts a line that goes on beyond what was read between two characters.
-QByteArrayView withoutHalfCharacter(QByteArrayView bytes)
+QString decoded(QByteArrayView bytes, QStringDecoder::Flags flags)
 {
-    qsizetype end = bytes.size();
-    while (end > 0 && bytes.size() - end < 4 && (static_cast<unsigned char>(bytes[end - 1]) & 0xC0U) == 0x80U)
-        --end;
-    return end > 0 && static_cast<unsigned char>(bytes[end - 1]) >= 0xC0U ? bytes.first(end - 1) : bytes;
+    QStringDecoder utf8(QStringDecoder::Utf8, flags);
+    QString text = utf8.decode(bytes);
+    if (!utf8.hasError())
+        return text;
+    QString result(bytes.size(), Qt::Uninitialized);
+    std::transform(bytes.begin(), bytes.end(), result.begin(),
+                   [](char c) { return QChar(fromCodePage1252(c)); });
+    return result;
 }
 
 // Where the first line ends: before a carriage return, a line feed, or the end-of-file mark of DOS.
@@ -46,14 +49,7 @@ qsizetype firstLineEnd(QByteArrayView bytes)
 
 QString decodeText(QByteArrayView bytes)
 {
-    QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    QString text = utf8.decode(bytes);
-    if (!utf8.hasError())
-        return text;
-    QString result(bytes.size(), Qt::Uninitialized);
-    std::transform(bytes.begin(), bytes.end(), result.begin(),
-                   [](char c) { return QChar(fromCodePage1252(c)); });
-    return result;
+    return decoded(bytes, QStringDecoder::Flag::Stateless);
 }
 
 QString firstLineOf(QByteArrayView start)
@@ -61,7 +57,8 @@ QString firstLineOf(QByteArrayView start)
     if (start.isEmpty() || start.at(0) == '\x1A')
         throw RuntimeError(ErrorNumber::InputPastEnd);
     const QByteArrayView line = start.first(firstLineEnd(start));
-    return decodeText(line.size() == LongestFirstLine ? withoutHalfCharacter(line) : line);
+    // A line that goes on may be cut within its last character, for which the decoder would wait.
+    return line.size() == LongestFirstLine ? decoded(line, QStringDecoder::Flag::Default) : decodeText(line);
 }
 
 } // namespace platform
