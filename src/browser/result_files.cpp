@@ -85,8 +85,6 @@ void filBinaries_DblClick(Panel &panel)
         return;
     }
     kinovra.SelectedFile = kinovra.BinaryFile;
-    if (kinovra.SelectedFile.isEmpty())
-        return;
     const platform::Answer answer =
         MsgBox(panel, {u"Press OK to open this file. It is not normally edited manually."_s, Icon::Question,
                        platform::Buttons::OKCancel, u"OK to Edit?"_s});

@@ -27,7 +27,7 @@ QString DirList::RowPath(int row) const
 
 void DirList::show(const platform::Directory &directory)
 {
-    const bool same = directory.path() == path_ && !ancestry_.isEmpty();
+    const bool same = directory.path() == path_;
     const int ancestorRow = ListIndex;
     const QString folder = same && ListIndex > OpenedRow() ? RowText(ListIndex) : QString();
 

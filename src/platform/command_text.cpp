@@ -26,7 +26,8 @@ QList<Piece> pieces(const QString &text, const QList<CommandText::Range> &docume
     qsizetype start = -1;
     auto document = documents.begin();
     qsizetype i = 0;
-    while (i < text.size() || (document != documents.end() && document->from == i)) {
+    // Behind the text's last character stand only empty documents, which make no piece.
+    while (i < text.size()) {
         if (document != documents.end() && document->from == i) {
             if (document->length > 0 && start < 0)
                 start = i;
@@ -102,8 +103,8 @@ QString CommandText::quoted() const
             continue;
         }
         result += u'"' + argument;
-        // A backslash before the closing quote would escape it.
-        for (qsizetype i = argument.size(); i > 0 && argument[i - 1] == u'\\'; --i)
+        // A backslash before the closing quote would escape it. The blank ends their row at the latest.
+        for (qsizetype i = argument.size() - 1; argument[i] == u'\\'; --i)
             result += u'\\';
         result += u'"';
     }

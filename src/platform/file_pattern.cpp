@@ -50,11 +50,8 @@ quint64 extensionKey(QStringView extension)
     if (extension.size() > 4)
         return 0;
     quint64 key = 0;
-    for (QChar unit : extension) {
-        if (unit.unicode() >= 0x80)
-            return 0;
+    for (QChar unit : extension)
         key = (key << 16) | upperCase(unit.unicode());
-    }
     return key;
 }
 

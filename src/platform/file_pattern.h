@@ -8,7 +8,7 @@
 namespace platform {
 
 /// A short extension as one number, so that a directory of 100,000 names is matched by comparing numbers. 0
-/// stands for no extension, and for one that is longer than four characters or not ASCII.
+/// stands for no extension, and for one that is longer than four characters.
 quint64 extensionKey(QStringView extension);
 
 /// A list of file patterns such as "*.plt;*.hpg". "*" stands for any text and "?" for one character; letter

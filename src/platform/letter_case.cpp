@@ -6,25 +6,25 @@ namespace platform {
 
 namespace {
 
+// Old letters behind the young ones; nothing behind them has a case.
+constexpr char16_t FullWidthLatin = 0xFF21;
+
 // File systems that ignore case do so for the letters of older Unicode only: later pairs (Georgian, Cherokee)
 // are different names to them.
 bool letterCaseIsYoung(char16_t unit)
 {
     return (unit >= 0x10A0 && unit <= 0x10FF) || (unit >= 0x13A0 && unit <= 0x13FF)
-           || (unit >= 0x1C80 && unit <= 0x1CBF) || (unit >= 0x2D00 && unit <= 0x2D2F) || unit >= 0xA640;
-}
-
-bool isFullWidthLatin(char16_t unit)
-{
-    return unit >= 0xFF21 && unit <= 0xFF5A;
+           || (unit >= 0x1C80 && unit <= 0x1CBF) || (unit >= 0x2D00 && unit <= 0x2D2F)
+           || (unit >= 0xA640 && unit < FullWidthLatin);
 }
 
 char16_t mapped(char16_t unit, char32_t (*there)(char32_t), char32_t (*back)(char32_t))
 {
-    if (letterCaseIsYoung(unit) && !isFullWidthLatin(unit))
+    if (letterCaseIsYoung(unit))
         return unit;
+    // Both cases of a letter are one UTF-16 unit, or both are two.
     const char32_t result = there(unit);
-    return result <= 0xFFFF && back(result) == unit ? static_cast<char16_t>(result) : unit;
+    return back(result) == unit ? static_cast<char16_t>(result) : unit;
 }
 
 char32_t toUpper(char32_t unit)

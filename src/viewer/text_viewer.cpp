@@ -66,12 +66,10 @@ QString readText(platform::OpenedFile &file)
     return text;
 }
 
-// Without the last character, as a rule the final line end; that is meant.
+// Without the last character, as a rule the final line end; that is meant. A decoded text has no half one.
 QString withoutLastCharacter(QString text)
 {
-    const bool isPair =
-        text.size() > 1 && text.back().isLowSurrogate() && text.at(text.size() - 2).isHighSurrogate();
-    text.chop(isPair ? 2 : 1);
+    text.chop(text.back().isLowSurrogate() ? 2 : 1);
     return text;
 }
 

@@ -164,7 +164,7 @@ QByteArray findInPath(const QByteArray &name)
     const QList<QByteArray> directories = qgetenv("PATH").split(':');
     for (const QByteArray &directory : directories) {
         QByteArray path = directory + '/' + name;
-        if (directory.startsWith('/') && !name.isEmpty() && !name.contains('/') && isExecutableFile(path))
+        if (directory.startsWith('/') && !name.contains('/') && isExecutableFile(path))
             return path;
     }
     return {};

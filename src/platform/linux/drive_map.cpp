@@ -5,10 +5,9 @@
 #include "platform/path_language.h"
 
 #include <cstdlib>
+#include <filesystem>
+#include <system_error>
 #include <utility>
-
-#include <dirent.h>
-#include <sys/stat.h>
 
 namespace platform::host {
 
@@ -25,10 +24,8 @@ QByteArray resolvedDirectory(const QByteArray &link)
     char *resolved = ::realpath(link.constData(), nullptr);
     const QByteArray path(resolved);
     std::free(resolved); // NOLINT(cppcoreguidelines-no-malloc): realpath's own contract
-    struct stat status = {};
-    const bool isDirectory =
-        !path.isEmpty() && ::stat(path.constData(), &status) == 0 && S_ISDIR(status.st_mode);
-    return isDirectory ? path : QByteArray();
+    std::error_code ignored;
+    return std::filesystem::is_directory(path.constData(), ignored) ? path : QByteArray();
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QFile>
 
+#include <algorithm>
 #include <cstdlib>
 
 #include <sys/stat.h>
@@ -25,7 +26,7 @@ bool isRegularFile(const QByteArray &hostPath)
 QByteArray directoryPart(const QByteArray &hostPath)
 {
     const qsizetype slash = hostPath.lastIndexOf('/');
-    return slash < 0 ? QByteArray(".") : slash == 0 ? QByteArray("/") : hostPath.left(slash);
+    return slash < 0 ? QByteArray(".") : hostPath.left(std::max<qsizetype>(slash, 1));
 }
 
 // The absolute path of something that is there; empty where it is not.

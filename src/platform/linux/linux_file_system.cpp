@@ -13,8 +13,10 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
+#include <filesystem>
 #include <memory>
 #include <new>
+#include <system_error>
 #include <utility>
 
 #include <sys/stat.h>
@@ -29,9 +31,8 @@ namespace {
 QByteArray processDirectory()
 {
     const std::unique_ptr<char, decltype(&std::free)> path(::getcwd(nullptr, 0), &std::free);
-    // A directory that has been removed, or that lies outside of what the process may see, has no usable
-    // name.
-    return path && path.get()[0] == '/' ? QByteArray(path.get()) : QByteArray("/");
+    // A directory that has been removed, or that lies outside of what the process may see, has no name.
+    return path ? QByteArray(path.get()) : QByteArray("/");
 }
 
 ErrorNumber missing(const PathLookup::File &file)
@@ -108,13 +109,8 @@ void LinuxFileSystem::changeDrive(const QString &drive)
 void LinuxFileSystem::changeDirectory(const QString &path)
 {
     const QString absolute = current_.absolute(path);
-    const auto found = lookup_.find(absolute);
+    const auto found = hostDirectory(absolute);
     if (!found)
-        throw RuntimeError(ErrorNumber::PathNotFound);
-    struct stat status = {};
-    if (::stat(found->constData(), &status) != 0)
-        raise(errno);
-    if (!S_ISDIR(status.st_mode))
         throw RuntimeError(ErrorNumber::PathNotFound);
     const QChar drive = absolute.at(0);
     if (drive == current_.drive() ? ::chdir(found->constData()) != 0
@@ -251,9 +247,8 @@ QString LinuxFileSystem::adopt(const QByteArray &hostDirectory)
 std::optional<QByteArray> LinuxFileSystem::hostDirectory(const QString &path)
 {
     const auto found = lookup_.find(current_.absolute(path));
-    struct stat status = {};
-    const bool isDirectory = found && ::stat(found->constData(), &status) == 0 && S_ISDIR(status.st_mode);
-    return isDirectory ? found : std::nullopt;
+    std::error_code ignored;
+    return found && std::filesystem::is_directory(found->constData(), ignored) ? found : std::nullopt;
 }
 
 std::optional<QByteArray> LinuxFileSystem::hostProgram(const QString &path)

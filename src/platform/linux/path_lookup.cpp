@@ -231,7 +231,7 @@ QByteArray PathLookup::findBelow(QChar drive, QByteArray hostDirectory, const QS
             return {};
         hostDirectory = hostPathBelow(hostDirectory, spelled);
     }
-    return hostDirectory.isEmpty() ? QByteArray("/") : hostDirectory;
+    return hostDirectory;
 }
 
 } // namespace platform::host

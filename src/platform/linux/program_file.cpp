@@ -17,9 +17,7 @@ constexpr size_t HeaderSize = 16'384;
 template <typename T>
 T littleEndian(QByteArrayView bytes, qsizetype offset)
 {
-    return offset >= 0 && offset + qsizetype(sizeof(T)) <= bytes.size()
-               ? qFromLittleEndian<T>(bytes.data() + offset)
-               : T(0);
+    return offset + qsizetype(sizeof(T)) <= bytes.size() ? qFromLittleEndian<T>(bytes.data() + offset) : T(0);
 }
 
 ProgramKind windowsKind(QByteArrayView start, qsizetype header)
