@@ -114,11 +114,11 @@ public:
     /// Begins a moment, and ends it: in between all questions are answered for that moment, so that whether a
     /// directory has changed is looked up once and not for each of them. The dispatcher gives every handler
     /// its moment.
-    virtual void beginMoment() {}
-    virtual void endMoment() {}
+    virtual void beginMoment() = 0;
+    virtual void endMoment() = 0;
 
     /// Events have run meanwhile: another moment begins.
-    virtual void nextMoment() {}
+    virtual void nextMoment() = 0;
 };
 
 } // namespace platform
