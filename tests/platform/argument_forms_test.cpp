@@ -38,6 +38,8 @@ TEST(WindowsForm, quotes_a_program_whose_folder_holds_blanks)
 {
     EXPECT_EQ(windowsCommandLine(direct(u"C:\\Program Files\\KV\\grafow.exe"_s, u" ;"_s)),
               u"\"C:\\Program Files\\KV\\grafow.exe\" ;"_s);
+    EXPECT_EQ(windowsCommandLine(direct(u"C:\\K\tV\\grafow.exe"_s, u" ;"_s)),
+              u"\"C:\\K\tV\\grafow.exe\" ;"_s);
 }
 
 TEST(WindowsForm, quotes_documents_with_blanks)

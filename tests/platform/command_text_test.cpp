@@ -49,6 +49,8 @@ TEST(CommandText, has_no_argument_for_an_empty_document)
 {
     EXPECT_EQ((u"/T "_s + doc(QString())).arguments(), QStringList{u"/T"_s});
     EXPECT_EQ((doc(QString()) + u" x"_s).arguments(), QStringList{u"x"_s});
+    EXPECT_EQ((doc(u"WALK1"_s) + doc(QString()) + doc(QString())).arguments(), QStringList{u"WALK1"_s});
+    EXPECT_TRUE(doc(QString()).arguments().isEmpty());
     EXPECT_TRUE(CommandText().arguments().isEmpty());
     EXPECT_TRUE(CommandText(u"  \t "_s).arguments().isEmpty());
 }
@@ -65,6 +67,7 @@ TEST(CommandText, doubles_backslashes_before_a_closing_quote)
 {
     EXPECT_EQ(doc(u"C:\\my dir\\"_s).quoted(), u"\"C:\\my dir\\\\\""_s);
     EXPECT_EQ(doc(u"C:\\my dir\\x"_s).quoted(), u"\"C:\\my dir\\x\""_s);
+    EXPECT_EQ(doc(u" \\\\"_s).quoted(), u"\" \\\\\\\\\""_s);
 }
 
 TEST(Start, of_a_program_is_its_composed_text_exactly)

@@ -44,6 +44,28 @@ TEST(FileNames, know_wildcards_beyond_extensions)
     EXPECT_EQ(directory->files(u""_s).count(), 0);
 }
 
+TEST(FileNames, match_a_star_that_stands_for_nothing)
+{
+    const auto directory = holding({u"walk"_s, u"walk1"_s, u"wal"_s});
+    EXPECT_EQ(directory->files(u"walk*"_s).toList(), (QStringList{u"walk"_s, u"walk1"_s}));
+    EXPECT_EQ(directory->files(u"walk1**"_s).toList(), QStringList{u"walk1"_s});
+}
+
+TEST(FileNames, know_extensions_with_wildcards_and_dots)
+{
+    const auto directory =
+        holding({u"walk.dg"_s, u"walk.dr"_s, u"walk.d"_s, u"walk.dgx"_s, u"walk.l.dg"_s, u"walk.r.dg"_s});
+    EXPECT_EQ(directory->files(u"*.d?"_s).toList(),
+              (QStringList{u"walk.dg"_s, u"walk.dr"_s, u"walk.l.dg"_s, u"walk.r.dg"_s}));
+    EXPECT_EQ(directory->files(u"*.l.dg"_s).toList(), QStringList{u"walk.l.dg"_s});
+}
+
+TEST(FileNames, match_extensions_beyond_ascii_in_any_case)
+{
+    const auto directory = holding({u"walk.dö"_s, u"RUN.DÖ"_s, u"walk.do"_s, u"walk.dü"_s});
+    EXPECT_EQ(directory->files(u"*.dö"_s).toList(), (QStringList{u"RUN.DÖ"_s, u"walk.dö"_s}));
+}
+
 TEST(FileNames, stand_in_alphabetical_order_without_regard_to_case)
 {
     const auto directory = holding({u"walk10.dg"_s, u"b.dg"_s, u"A.dg"_s, u"WALK1.DG"_s, u"a.DG"_s, u"C.dg"_s,
@@ -60,6 +82,19 @@ TEST(FileNames, stand_in_order_beyond_ascii_too)
     EXPECT_EQ(
         directory->files(u"*.dg"_s).toList(),
         (QStringList{u"abcdefghz.dg"_s, u"abcdefghä.dg"_s, u"zz.dg"_s, u"Ä0.dg"_s, u"ä1.dg"_s, u"ö0.dg"_s}));
+}
+
+TEST(FileNames, stand_before_longer_names_that_begin_like_them)
+{
+    const QString name = u"walk_with_both_sticks"_s;
+    const QString longer = u"WALK_WITH_BOTH_STICKS2"_s;
+    for (const QStringList &files : {QStringList{name, longer}, QStringList{longer, name}}) {
+        const auto names = holding(files)->files(u"*"_s);
+        EXPECT_EQ(names.toList(), (QStringList{name, longer}));
+        EXPECT_EQ(names.indexOf(name), 0);
+        EXPECT_EQ(names.indexOf(longer), 1);
+        EXPECT_EQ(names.indexOf(name.chopped(1)), -1);
+    }
 }
 
 TEST(FileNames, are_found_again_whatever_they_are_made_of)
@@ -128,6 +163,15 @@ TEST(DirectoryLookup, prefers_the_exact_name_then_the_first_in_order)
     EXPECT_EQ(directory->find(u"Walk.dg"_s), u"Walk.dg"_s);
     EXPECT_EQ(directory->find(u"walk.dg"_s), u"walk.dg"_s);
     EXPECT_EQ(directory->find(u"WALK.DG"_s), u"WALK.dg"_s);
+}
+
+// Both names have the same number in the table of the lookup.
+TEST(DirectoryLookup, tells_names_apart_that_share_a_number)
+{
+    EXPECT_TRUE(holding({u"step9396.dg"_s})->find(u"GAIT32830.DG"_s).isNull());
+    const auto directory = holding({u"step9396.dg"_s, u"gait32830.dg"_s});
+    EXPECT_EQ(directory->find(u"STEP9396.DG"_s), u"step9396.dg"_s);
+    EXPECT_EQ(directory->find(u"GAIT32830.DG"_s), u"gait32830.dg"_s);
 }
 
 TEST(DirectoryLookup, finds_hidden_names)

@@ -15,13 +15,13 @@ TEST(DisplayText, is_the_text_itself_as_a_rule)
 TEST(DisplayText, shows_control_characters_as_pictures)
 {
     EXPECT_EQ(displayText(u"a\nb\t\u001B[31m\u007F"_s), u"a\u240Ab\u2409\u241B[31m\u2421"_s);
-    EXPECT_EQ(displayText(u"a\u0085b\u2028"_s), u"a\uFFFDb\uFFFD"_s);
+    EXPECT_EQ(displayText(u"a\u0085b\u2028c\u2029"_s), u"a\uFFFDb\uFFFDc\uFFFD"_s);
 }
 
 TEST(DisplayText, does_not_let_a_name_turn_the_reading_direction)
 {
     EXPECT_EQ(displayText(u"walk\u202Egd.exe"_s), u"walk\uFFFDgd.exe"_s);
-    EXPECT_EQ(displayText(u"\u200Fa\u2066b"_s), u"\uFFFDa\uFFFDb"_s);
+    EXPECT_EQ(displayText(u"\u200Ea\u200Fb\u061Cc\u2066d"_s), u"\uFFFDa\uFFFDb\uFFFDc\uFFFDd"_s);
 }
 
 TEST(DisplayText, tells_names_apart_that_differ_in_what_no_screen_shows)
@@ -36,6 +36,8 @@ TEST(DisplayText, tells_names_apart_that_differ_in_what_no_screen_shows)
 TEST(DisplayText, shows_what_private_characters_stand_for)
 {
     EXPECT_EQ(displayText(u"a\uF03Ab\uF05Cc\uF022d\uF0E9"_s), u"a:b\\c\"d\uFFFD"_s);
+    // Others stand for nothing.
+    EXPECT_EQ(displayText(u"\uF041\uF100"_s), u"\uF041\uF100"_s);
 }
 
 TEST(DisplayLines, stay_lines_and_hide_nothing)

@@ -42,6 +42,12 @@ TEST(DriveText, is_a_letter_a_colon_and_perhaps_a_label)
     EXPECT_FALSE(isDriveText(u"c"_s));
     EXPECT_FALSE(isDriveText(u""_s));
     EXPECT_FALSE(isDriveText(u"x: \\\\server\\share\\file"_s));
+    EXPECT_FALSE(isDriveText(u"x: \\\\server"_s));
+    EXPECT_FALSE(isDriveText(u"x: \\\\\\share"_s));
+    EXPECT_FALSE(isDriveText(u"c: [label"_s));
+    EXPECT_FALSE(isDriveText(u"c: [label]x"_s));
+    for (const QString &sign : {u"@"_s, u"["_s, u"`"_s, u"{"_s, u"é"_s})
+        EXPECT_FALSE(isDriveText(sign + u':')) << sign.toStdString();
 }
 
 TEST(AbsolutePath, of_a_drive_text_is_the_current_directory_of_that_drive)
@@ -59,6 +65,12 @@ TEST(AbsolutePath, takes_a_drive_text_in_front_of_a_path)
     EXPECT_EQ(directories().absolute(u"d: \\\\server\\share\\walk1.dg"_s), u"D:\\Sub\\Deep\\walk1.dg"_s);
     EXPECT_EQ(directories().absolute(u"c:\\walk1.dg"_s), u"C:\\walk1.dg"_s);
     EXPECT_EQ(directories().absolute(u"d:walk1.dg"_s), u"D:\\Sub\\Deep\\walk1.dg"_s);
+}
+
+TEST(AbsolutePath, takes_a_label_that_never_ends_for_a_name)
+{
+    EXPECT_EQ(directories().absolute(u"c: [label"_s), u"C:\\DATA\\ [label"_s);
+    EXPECT_EQ(directories().absolute(u"d: \\\\server"_s), u"D:\\Sub\\Deep\\ \\server"_s);
 }
 
 TEST(AbsolutePath, of_a_relative_path_starts_at_the_current_directory)
@@ -81,6 +93,7 @@ TEST(AbsolutePath, refuses_what_is_no_path)
 {
     EXPECT_EQ(errorOf([] { directories().absolute(u"c:\\a:b"_s); }), 52);
     EXPECT_EQ(errorOf([] { directories().absolute(u"run1:dg"_s); }), 52);
+    EXPECT_EQ(errorOf([] { directories().absolute(u"{:\\a"_s); }), 52);
     EXPECT_EQ(errorOf([] { directories().absolute(u"a"_s + QChar(u'\0')); }), 52);
     EXPECT_EQ(errorOf([] { directories().absolute(u"\\\\server\\share\\a"_s); }), 76);
     EXPECT_EQ(errorOf([] { directories().absolute(QString()); }), 76);

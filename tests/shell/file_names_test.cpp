@@ -80,6 +80,16 @@ TEST(DirectoryOf, a_file_in_a_root_loses_the_backslash)
     EXPECT_EQ(DirectoryOf(u"C:\\run1.dg"_s), u"C:"_s);
 }
 
+TEST(InDataDir, is_where_a_name_of_a_list_is_found)
+{
+    Kinovra kinovra;
+    kinovra.DataDir = u"C:\\DATA"_s;
+    EXPECT_EQ(inDataDir(kinovra, u"run1.dg"_s), u"C:\\DATA\\run1.dg"_s);
+    EXPECT_EQ(inDataDir(kinovra, u"C:\\OTHER\\run1.dg"_s), u"C:\\OTHER\\run1.dg"_s);
+    EXPECT_EQ(inDataDir(kinovra, u"sub\\run1.dg"_s), u"sub\\run1.dg"_s);
+    EXPECT_EQ(inDataDir(kinovra, u"D:run1.dg"_s), u"D:run1.dg"_s);
+}
+
 class ShortNameTest : public support::PanelFixture
 {};
 

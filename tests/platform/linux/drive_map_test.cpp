@@ -27,6 +27,8 @@ TEST(DriveMap, takes_the_letters_of_a_wine_prefix)
     prefix.makeLink("dosdevices/c:", "../drive_c");
     prefix.makeLink("dosdevices/e:", prefix.path("stick"));
     prefix.makeLink("dosdevices/f:", "/gone/away");
+    prefix.makeFile("file");
+    prefix.makeLink("dosdevices/g:", "../file");
     prefix.makeLink("dosdevices/z:", "/");
     prefix.makeLink("dosdevices/com1", "/dev/null");
     prefix.makeLink("dosdevices/c::", "/dev/null");

@@ -47,6 +47,17 @@ TEST(HostNames, never_share_a_form)
     EXPECT_EQ(toHostName(fromHostName(privateColon)), privateColon);
 }
 
+TEST(HostNames, keep_the_private_characters_that_stand_for_nothing)
+{
+    EXPECT_EQ(fromHostName("\xEF\x80\x80"), u"\uF000"_s);
+    EXPECT_EQ(fromHostName("\xEF\x81\x81.dg"), u"\uF041.dg"_s);
+    EXPECT_EQ(fromHostName("\xEF\x84\x80"), u"\uF100"_s);
+    EXPECT_EQ(toHostName(u"\uF041.dg"), QByteArray("\xEF\x81\x81.dg"));
+    // These stand for bytes, so that each byte of such a name is hidden by itself.
+    EXPECT_EQ(fromHostName("\xEF\x82\x80"), u"\uF0EF\uF082\uF080"_s);
+    EXPECT_EQ(fromHostName("\xEF\x83\xBF"), u"\uF0EF\uF083\uF0BF"_s);
+}
+
 TEST(HostNames, come_back_unchanged_whatever_they_are)
 {
     std::mt19937 random(20261121);
