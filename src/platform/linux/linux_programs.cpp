@@ -245,7 +245,7 @@ LinuxPrograms::Command LinuxPrograms::programCommand(const Start &start, const Q
     case ProgramKind::Unknown:
         break;
     }
-    if (::access(program.constData(), R_OK) != 0)
+    if (::faccessat(AT_FDCWD, program.constData(), R_OK, AT_EACCESS) != 0)
         return {.failure = u"permission was denied"_s, .failureValue = open_failure::AccessDenied};
     return {.failure = u"it is not a program"_s, .failureValue = open_failure::BadFormat};
 }

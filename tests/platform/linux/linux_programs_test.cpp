@@ -15,6 +15,7 @@
 #include <gmock/gmock.h>
 
 #include <cerrno>
+#include <cstring>
 #include <filesystem>
 #include <optional>
 #include <random>
@@ -50,6 +51,9 @@ class LinuxStarts : public testing::Test
 protected:
     LinuxStarts()
     {
+        // What other tests have left is none of this one's processes.
+        while (::wait(nullptr) > 0) {
+        }
         scratch.makeDirectory("Program Files");
         scratch.makeDirectory("bin");
         install("Program Files/Kinemati.exe");
@@ -273,6 +277,46 @@ TEST_F(LinuxStarts, say_why_nothing_was_started)
     EXPECT_TRUE(record().isEmpty());
 }
 
+TEST_F(LinuxStarts, say_what_the_system_has_against_a_program)
+{
+    scratch.makeExecutable("folder.exe", "#!/tmp\n");
+    scratch.makeExecutable("broken.exe", "\x7F"
+                                         "ELF and nothing more");
+    result = programs.start(open(at(u"folder.exe"_s), u"x"_s));
+    EXPECT_EQ(result.failure, u"it may not be executed"_s);
+    EXPECT_EQ(result.value, 5);
+    result = programs.start(open(at(u"broken.exe"_s), u"x"_s));
+    EXPECT_EQ(result.failure, u"it is not a program of this system"_s);
+    EXPECT_EQ(result.value, 11);
+    // The system takes arguments of 128 KiB.
+    const CommandText endless = CommandText::document(QString(200'000, u'x'));
+    result = programs.start(open(at(u"Program Files\\Kinemati.exe"_s), endless));
+    EXPECT_EQ(result.failure, QString::fromLocal8Bit(std::strerror(E2BIG))); // NOLINT(concurrency-mt-unsafe)
+    EXPECT_EQ(result.value, 2);
+    EXPECT_TRUE(record().isEmpty());
+}
+
+TEST_F(LinuxStarts, need_a_program_that_may_be_read)
+{
+    scratch.makeExecutable("secret.exe", "#!/bin/true\n");
+    ::chmod(scratch.path("secret.exe").constData(), 0);
+    const support::WithoutPrivileges nobody;
+    result = programs.start(open(at(u"secret.exe"_s), u"x"_s));
+    EXPECT_EQ(result.failure, u"permission was denied"_s);
+    EXPECT_EQ(result.value, 5);
+}
+
+TEST_F(LinuxStarts, need_nobody_who_hears_of_their_end)
+{
+    LinuxPrograms untold(files, ConsoleHelper);
+    EXPECT_EQ(untold.start(open(at(u"Program Files\\Kinemati.exe"_s), u"x"_s)).failure, QString());
+    QDeadlineTimer deadline(20'000);
+    while (::waitid(P_ALL, 0, nullptr, WEXITED | WNOHANG | WNOWAIT) == 0 && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    EXPECT_EQ(errno, ECHILD);
+    EXPECT_EQ(record().value(2), "x");
+}
+
 TEST_F(LinuxStarts, need_their_directory)
 {
     Start start = open(at(u"Program Files\\Kinemati.exe"_s), u"x"_s);
@@ -330,6 +374,10 @@ TEST_F(LinuxStarts, never_take_a_bare_name_from_the_data_directory)
 TEST_F(LinuxStarts, find_a_bare_name_where_the_system_keeps_programs)
 {
     install("bin/my-editor");
+    scratch.makeDirectory("bin/sub");
+    install("bin/sub/my-editor");
+    for (const QString &name : {QString(), u"sub"_s, u"sub/my-editor"_s, u"../bin/my-editor"_s})
+        EXPECT_EQ(programs.start(open(name, u"x"_s)).failure, u"it was not found"_s) << name.toStdString();
     EXPECT_EQ(run(open(u"my-editor"_s, u"x"_s)),
               (QList<QByteArray>{scratch.path(), scratch.path("bin/my-editor"), "x"}));
 }
@@ -723,6 +771,33 @@ TEST_F(LinuxTerminals, that_fail_are_not_taken_for_the_program)
     EXPECT_EQ(ends.back().ending.kind, Ending::Kind::TerminalFailed);
 }
 
+TEST_F(LinuxTerminals, that_crash_are_not_taken_for_the_program)
+{
+    scratch.remove("bin/kitty");
+    scratch.makeExecutable("bin/kitty", "#!/bin/sh\nkill -9 $$\n");
+    result = programs.start(open(at(u"Program Files\\Kinemati.exe"_s), u"x"_s));
+    EXPECT_EQ(result.failure, QString());
+    waitForEnd();
+    EXPECT_EQ(ends.back().value, result.value);
+    EXPECT_EQ(ends.back().ending.kind, Ending::Kind::TerminalFailed);
+}
+
+TEST_F(LinuxTerminals, may_fail_once_the_program_has_ended)
+{
+    scratch.remove("bin/kitty");
+    // What the helper has told already is told once, even if it is told again.
+    scratch.makeExecutable("bin/kitty", "#!/bin/sh\n\"$@\"\n\"$@\"\n: >closed\nexit 1\n");
+    run(open(at(u"Program Files\\Kinemati.exe"_s), u"x"_s));
+    QDeadlineTimer deadline(20'000);
+    while (::waitid(P_ALL, 0, nullptr, WEXITED | WNOHANG | WNOWAIT) == 0 && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    EXPECT_TRUE(scratch.has("closed"));
+    ASSERT_EQ(ends.size(), 1U);
+    EXPECT_EQ(ends[0].value, result.value);
+    EXPECT_EQ(ends[0].ending.kind, Ending::Kind::Exited);
+    EXPECT_EQ(ends[0].ending.code, 0);
+}
+
 TEST_F(LinuxTerminals, do_not_hide_why_nothing_was_started)
 {
     scratch.makeFile("bin/forbidden.exe", "#!/bin/true\n");
@@ -781,14 +856,35 @@ TEST_F(LinuxTerminals, are_not_for_programs_with_windows_of_their_own)
     EXPECT_EQ(got.mid(5), (QList<QByteArray>{scratch.path("Program Files/Kinemati.exe"), "x"}));
 }
 
-TEST_F(LinuxTerminals, do_without_the_helper)
+TEST_F(LinuxTerminals, show_viewers_that_have_no_window)
 {
-    LinuxPrograms bare(files, QByteArray());
-    EXPECT_EQ(bare.start(open(at(u"Program Files\\Kinemati.exe"_s), u"x"_s)).failure, QString());
+    scratch.remove("bin/kitty");
+    install("bin/kitty");
+    install("bin/nano");
+    scratch.makeFile("Listing.OUT");
+    Start start = open(at(u"bin\\nano"_s), CommandText::document(at(u"listing.out"_s)));
+    start.isViewer = true;
+    EXPECT_EQ(programs.start(start).failure, QString());
     QDeadlineTimer deadline(20'000);
     while (record().isEmpty() && !deadline.hasExpired())
         QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
-    EXPECT_EQ(record(), (QList<QByteArray>{scratch.path(), scratch.path("Program Files/Kinemati.exe"), "x"}));
+    EXPECT_EQ(record().value(1), scratch.path("bin/kitty"));
+    EXPECT_EQ(record().mid(5), (QList<QByteArray>{scratch.path("bin/nano"), scratch.path("Listing.OUT")}));
+}
+
+TEST_F(LinuxTerminals, do_without_the_helper)
+{
+    scratch.makeFile("helper");
+    for (const QByteArray &helper : {QByteArray(), scratch.path("gone"), scratch.path("helper")}) {
+        scratch.remove("record");
+        LinuxPrograms bare(files, helper);
+        EXPECT_EQ(bare.start(open(at(u"Program Files\\Kinemati.exe"_s), u"x"_s)).failure, QString());
+        QDeadlineTimer deadline(20'000);
+        while (record().isEmpty() && !deadline.hasExpired())
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+        EXPECT_EQ(record(),
+                  (QList<QByteArray>{scratch.path(), scratch.path("Program Files/Kinemati.exe"), "x"}));
+    }
 }
 
 // ------------------------------------------------------------- what every starter does, recording or
