@@ -1,6 +1,7 @@
 // The desktop's own programs in place of the accessories, with the echo program in the place of each.
 
 #include "platform/letter_case.h"
+#include "platform/linux/desktop_programs.h"
 #include "platform/linux/host_names.h"
 #include "platform/linux/linux_programs.h"
 #include "printing.h"
@@ -466,4 +467,19 @@ TEST_F(DesktopPrograms, get_a_document_that_is_not_there_by_the_path_that_it_wou
               (QList<QByteArray>{scratch.path("data"), scratch.path("bin/vlc")}));
     EXPECT_EQ(failure(accessory(u"mplayer.exe"_s, u" "_s + CommandText::document(u"Q:\\x.avi"_s))),
               u"device unavailable"_s);
+}
+
+TEST(DesktopAccessories, are_these_alone)
+{
+    using namespace platform::host;
+    EXPECT_TRUE(isAccessory(u"NotePad.EXE"_s));
+    EXPECT_FALSE(isAccessory(u"notepad"_s));
+    EXPECT_EQ(accessoryKind(u"CALC.EXE"_s), u"calculator"_s);
+    EXPECT_EQ(accessoryKind(u"grafow.exe"_s), u"program"_s);
+    EXPECT_FALSE(desktopProgram(u"grafow.exe"_s).has_value());
+}
+
+TEST(TerminalBehindALink, is_the_path_itself_where_nothing_is_there)
+{
+    EXPECT_EQ(platform::host::terminalItself("/gone/xterm"), QByteArray("/gone/xterm"));
 }

@@ -6,6 +6,7 @@
 #include "platform/runtime_error.h"
 #include "printing.h"
 #include "scratch_directory.h"
+#include "without_descriptors.h"
 
 #include <gmock/gmock.h>
 
@@ -14,7 +15,6 @@
 #include <utility>
 
 #include <sys/mount.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -382,13 +382,10 @@ TEST_F(DirectoryChanges, are_not_made_where_what_is_there_cannot_be_known)
 {
     scratch.makeDirectory("Sub");
     EXPECT_EQ(make(at(u"SUB"_s)), taken);
-    rlimit before{};
-    ::getrlimit(RLIMIT_NOFILE, &before);
-    const rlimit none{0, before.rlim_max};
-    ::setrlimit(RLIMIT_NOFILE, &none);
-    const QString refused = make(at(u"SUB"_s));
-    ::setrlimit(RLIMIT_NOFILE, &before);
-    EXPECT_EQ(refused, u"67 Too many files"_s);
+    {
+        const support::WithoutDescriptors none;
+        EXPECT_EQ(make(at(u"SUB"_s)), u"67 Too many files"_s);
+    }
     EXPECT_THAT(scratch.names(), ElementsAre("Sub"));
 }
 
@@ -474,4 +471,7 @@ TEST_F(DirectoryChangesOnDrives, need_a_drive_that_is_still_there)
     EXPECT_EQ(makeInWine(u"E:\\new"_s), gone);
     EXPECT_EQ(removeInWine(u"E:\\new"_s), gone);
     EXPECT_FALSE(scratch.has("stick"));
+    // Others are not kept from theirs.
+    EXPECT_EQ(removeInWine(u"C:\\Data"_s), QString());
+    EXPECT_FALSE(scratch.has("prefix/drive_c/Data"));
 }

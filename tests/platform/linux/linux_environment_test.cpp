@@ -70,6 +70,11 @@ TEST_F(LinuxCommandLine, leaves_everything_else_as_it_stands)
     EXPECT_EQ(line({"/x", "-v", ";", "?"}), u"/x -v ; ?"_s);
     EXPECT_EQ(line({"/no/such/file.dg"}), u"/no/such/file.dg"_s);
     EXPECT_EQ(line({"Z:\\data\\run1.dg"}), u"Z:\\data\\run1.dg"_s);
+    EXPECT_EQ(line({"Z:run1.dg"}), u"Z:run1.dg"_s);
+    EXPECT_EQ(line({"data/"}), u"data/"_s);
+    EXPECT_EQ(line({"\\run1.dg"}), u"\\run1.dg"_s);
+    scratch.makeDirectory("-d");
+    EXPECT_EQ(line({"-d\\run1.dg"}), u"-d\\run1.dg"_s);
 }
 
 TEST_F(LinuxCommandLine, quotes_arguments_with_blanks)
@@ -111,6 +116,10 @@ TEST_F(LinuxCommandLine, and_variables_are_in_the_path_language)
     {
         const support::ScopedVariable variable("KINOVRA", R"(Z:\opt\kv\)");
         EXPECT_EQ(environment.variable(u"KINOVRA"_s), u"Z:\\opt\\kv"_s);
+    }
+    {
+        const support::ScopedVariable variable("KINOVRA", R"(\opt\kv\)");
+        EXPECT_EQ(environment.variable(u"KINOVRA"_s), u"\\opt\\kv"_s);
     }
     {
         const support::ScopedVariable variable("KINOVRA", "Z:\\");

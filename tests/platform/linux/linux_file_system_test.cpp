@@ -1,16 +1,17 @@
 // What the host's file system does beyond what every file system does.
 
+#include "platform/linux/directory_reader.h"
 #include "platform/linux/linux_file_system.h"
 #include "platform/runtime_error.h"
 #include "printing.h"
 #include "scratch_directory.h"
+#include "without_descriptors.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
 
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -18,28 +19,7 @@ using namespace Qt::StringLiterals;
 using platform::Reading;
 using platform::Replacing;
 using platform::host::LinuxFileSystem;
-
-namespace {
-
-/// Lets nothing more be opened while it lives; what is open stays so.
-class WithoutDescriptors
-{
-public:
-    WithoutDescriptors()
-    {
-        ::getrlimit(RLIMIT_NOFILE, &before_);
-        const rlimit none{0, before_.rlim_max};
-        ::setrlimit(RLIMIT_NOFILE, &none);
-    }
-    ~WithoutDescriptors() { ::setrlimit(RLIMIT_NOFILE, &before_); }
-    WithoutDescriptors(const WithoutDescriptors &) = delete;
-    WithoutDescriptors &operator=(const WithoutDescriptors &) = delete;
-
-private:
-    rlimit before_{};
-};
-
-} // namespace
+using support::WithoutDescriptors;
 
 class LinuxFiles : public testing::Test
 {
@@ -252,6 +232,17 @@ TEST_F(LinuxFiles, take_a_native_program_for_a_missing_exe)
     EXPECT_EQ(opening(upper(u"kinemati.txt"_s)), 53);
 }
 
+TEST_F(LinuxFiles, take_no_program_that_has_gone_since_the_moment_began)
+{
+    scratch.makeExecutable("kinemati", "#!/bin/true\n");
+    files.directory(base, Reading::Anew);
+    files.beginMoment();
+    scratch.remove("kinemati");
+    EXPECT_EQ(files.testReading(upper(u"kinemati.exe"_s)), 53);
+    EXPECT_EQ(files.hostProgram(upper(u"kinemati.exe"_s)), std::nullopt);
+    files.endMoment();
+}
+
 TEST_F(LinuxFiles, give_documents_their_true_path)
 {
     scratch.makeFile("WALK1.DG");
@@ -293,6 +284,27 @@ TEST_F(LinuxFiles, are_one_file_under_all_their_names)
     ASSERT_TRUE(walk1.has_value());
     for (const QString &name : {u"link.cfb"_s, u"second.cfb"_s, u"WALK1.CFB"_s})
         EXPECT_TRUE(walk1->isOfSameFile(files.stamp(at(name)).value())) << name.toStdString();
+}
+
+TEST_F(LinuxFiles, have_no_stamp_once_they_are_gone)
+{
+    scratch.makeFile("walk1.cfb");
+    files.directory(base, Reading::Anew);
+    files.beginMoment();
+    EXPECT_TRUE(files.stamp(at(u"walk1.cfb"_s)).has_value());
+    scratch.remove("walk1.cfb");
+    EXPECT_FALSE(files.stamp(at(u"walk1.cfb"_s)).has_value());
+    files.endMoment();
+}
+
+TEST_F(LinuxFiles, have_no_names_that_are_none_wherever_they_are_looked_for)
+{
+    scratch.makeFile("walk1.dg");
+    files.directory(base, Reading::Anew);
+    EXPECT_EQ(files.testReading(at(u"walk1.dg"_s)), 0);
+    EXPECT_EQ(files.testReading(at(u"walk1:dg"_s)), 52);
+    EXPECT_EQ(files.testReading(at(u"walk1.dg"_s + QChar(u'\0'))), 52);
+    EXPECT_EQ(files.testReading(at(u"walk1.dg"_s)), 0);
 }
 
 TEST_F(LinuxFiles, are_replaced_even_while_another_program_keeps_them_open)
@@ -346,6 +358,57 @@ TEST_F(LinuxFiles, keep_a_current_directory_for_each_drive)
     EXPECT_EQ(wine.adopt(scratch.path("prefix/drive_c/data")), u"C:\\data"_s);
 }
 
+TEST_F(LinuxFiles, leave_a_current_directory_that_cannot_be_entered_any_more)
+{
+    scratch.makeDirectory("sub");
+    files.changeDrive(base);
+    files.changeDirectory(at(u"sub"_s));
+    ::chmod(scratch.path("sub").constData(), 0);
+    {
+        const support::WithoutPrivileges nobody;
+        files.changeDrive(u"z:"_s);
+    }
+    EXPECT_EQ(files.currentDirectory(), u"Z:\\"_s);
+    EXPECT_EQ(std::filesystem::current_path().string(), "/");
+}
+
+TEST_F(LinuxFiles, stay_on_their_drive_where_the_other_one_is_gone)
+{
+    scratch.makeDirectory("prefix/dosdevices");
+    scratch.makeDirectory("prefix/drive_c");
+    scratch.makeLink("prefix/dosdevices/c:", "../drive_c");
+    LinuxFileSystem wine(scratch.path("prefix"));
+    wine.changeDrive(u"z:"_s);
+    EXPECT_EQ(wine.testReading(u"C:\\x"_s), 53);
+    scratch.remove("prefix/drive_c");
+    try {
+        wine.changeDrive(u"c:"_s);
+        ADD_FAILURE() << "a drive that is gone became the current one";
+    } catch (const platform::RuntimeError &error) {
+        EXPECT_EQ(error.Number, 76);
+    }
+    EXPECT_EQ(wine.currentDirectory().left(2), u"Z:"_s);
+}
+
+TEST_F(LinuxFiles, of_directories_that_were_not_used_for_long_are_read_again)
+{
+    const auto directory = [this](int number) {
+        return files.directory(at(u"sub%1"_s.arg(number)), Reading::WhenChanged);
+    };
+    for (int i = 0; i < 40; ++i)
+        scratch.makeDirectory("sub" + QByteArray::number(i));
+    files.beginMoment();
+    const auto first = directory(0);
+    EXPECT_EQ(directory(0), first);
+    for (int i = 1; i < 40; ++i)
+        directory(i);
+    const auto last = directory(39);
+    EXPECT_EQ(directory(39), last);
+    EXPECT_NE(directory(0), first);
+    EXPECT_EQ(directory(0)->path(), at(u"sub0"_s));
+    files.endMoment();
+}
+
 TEST_F(LinuxFiles, read_titles_of_any_kind)
 {
     scratch.makeFile("bom.dg", "\xEF\xBB\xBF"
@@ -373,6 +436,19 @@ TEST_F(LinuxFiles, see_changes_within_one_tick_of_the_clock)
         scratch.makeFile(name);
         ASSERT_EQ(files.testReading(upper(QString::fromLatin1(name))), 0) << i;
     }
+}
+
+// Of a file system whose clock is not known a tenth of a second is too short a time.
+TEST(DirectoryReadings, are_not_settled_while_a_change_could_share_their_time)
+{
+    using platform::host::readDirectory;
+    const support::ScratchDirectory scratch;
+    scratch.makeFile("new.dg");
+    EXPECT_FALSE(readDirectory(scratch.path(), u"Z:\\data"_s).settled);
+    const QByteArray threads = "/proc/self/task";
+    readDirectory(threads, u"Z:\\task"_s);
+    ::usleep(100'000);
+    EXPECT_FALSE(readDirectory(threads, u"Z:\\task"_s).settled);
 }
 
 TEST_F(LinuxFiles, survive_a_directory_that_vanishes_and_comes_back)

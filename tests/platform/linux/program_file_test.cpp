@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 using platform::host::ProgramKind;
 using platform::host::programKind;
 using platform::host::programKindOf;
@@ -63,4 +65,17 @@ TEST(ProgramKind, is_read_from_files_without_waiting)
     EXPECT_EQ(programKindOf(scratch.path("pipe")), ProgramKind::Unknown);
     EXPECT_EQ(programKindOf(scratch.path("folder")), ProgramKind::Unknown);
     EXPECT_EQ(programKindOf(scratch.path("missing")), ProgramKind::Unknown);
+}
+
+TEST(ProgramKind, of_what_cannot_be_read_is_unknown)
+{
+    const support::ScratchDirectory scratch;
+    scratch.makeFile("script", "#!/bin/true\n");
+    ::chmod(scratch.path("script").constData(), 0);
+    {
+        const support::WithoutPrivileges nobody;
+        EXPECT_EQ(programKindOf(scratch.path("script")), ProgramKind::Unknown);
+    }
+    // The process's own memory, of which nothing lies at its beginning.
+    EXPECT_EQ(programKindOf("/proc/self/mem"), ProgramKind::Unknown);
 }
