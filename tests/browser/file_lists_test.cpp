@@ -224,6 +224,16 @@ TEST_F(FileLists, refreshed_leave_what_the_status_bar_says_of_something_else)
     EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"DATA2 cannot be read: path not found."_s);
 }
 
+TEST_F(FileLists, that_have_shown_no_directory_yet_are_left_alone)
+{
+    support::RecordingPlatform another;
+    shell::Panel notLoaded(another.platform);
+    browser::refresh(notLoaded, {&notLoaded.frm.filGraFiles, &notLoaded.frm.filModels});
+    EXPECT_EQ(another.files.directoriesRead, 0);
+    EXPECT_EQ(notLoaded.frm.StatusBar1.Panel1.value(), QString());
+    EXPECT_THAT(another.dialogs.messages, IsEmpty());
+}
+
 TEST_F(FileLists, re_read_their_directory_on_getting_the_focus)
 {
     addData({"NEW.KM", "NEW.PLT", "NEW.DG"});

@@ -50,6 +50,15 @@ TEST(DirectoryLists, have_a_trailing_backslash_only_at_a_root)
     EXPECT_EQ(list.RowPath(1), u"C:\\Trials"_s);
 }
 
+TEST(DirectoryLists, highlight_the_open_directory_where_no_row_was_highlighted)
+{
+    DirList list;
+    list.show(*directoryWith(u"C:\\Trials"_s, {u"a"_s}));
+    list.ListIndex = -1;
+    list.show(*directoryWith(u"C:\\Trials"_s, {u"a"_s}));
+    EXPECT_EQ(list.ListIndex.value(), 1);
+}
+
 TEST(DirectoryLists, keep_the_highlighted_row_when_the_same_directory_is_shown_again)
 {
     DirList list;

@@ -120,6 +120,15 @@ TEST_F(GreyedItems, ask_for_a_trial_where_there_is_none)
     expectThatAllSayWhy("without a trial");
 }
 
+// Files whose name is nothing but the extension are no trial.
+TEST_F(GreyedItems, ask_for_a_trial_where_files_have_no_name)
+{
+    begin({".cfb", ".cn", ".km", "walk1.cfb"});
+    openMenu(frm.mnuProgs);
+    EXPECT_EQ(why(frm.mnuProg[9]), u"Needs a current trial: click on a data file or a model first"_s);
+    expectThatAllSayWhy("without a name");
+}
+
 TEST_F(GreyedItems, say_what_keeps_a_file_from_being_opened)
 {
     begin({"walk1.dg", "walk1.cfb", "run.cfb", "walk1.cn"});

@@ -2,6 +2,7 @@
 #include "printing.h"
 #include "shell/dispatch.h"
 #include "shell/main_window.h"
+#include "shell/window_events.h"
 
 using namespace Qt::StringLiterals;
 
@@ -214,4 +215,21 @@ TEST_F(WindowEvents, user_level_is_one_of_two)
     EXPECT_TRUE(frm.mnuUser[0].Checked);
     EXPECT_FALSE(frm.mnuUser[1].Checked);
     EXPECT_TRUE(machine.settings.written.empty());
+}
+
+TEST_F(WindowEvents, an_unknown_user_level_checks_none_and_changes_nothing)
+{
+    for (const int index : {-1, 2}) {
+        click(frm.mnuUser[1]);
+        shell::dispatch(panel, [&] { shell::mnuUser_Click(panel, index); });
+        EXPECT_EQ(kinovra.UserLevel, 1);
+        EXPECT_FALSE(frm.mnuUser[0].Checked);
+        EXPECT_FALSE(frm.mnuUser[1].Checked);
+    }
+}
+
+TEST_F(WindowEvents, an_error_of_the_library_is_told_like_every_other)
+{
+    shell::dispatch(panel, [] { throw std::length_error("too long"); });
+    EXPECT_EQ(messages(), QStringList{u"too long"_s});
 }

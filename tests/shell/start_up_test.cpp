@@ -191,6 +191,17 @@ TEST_F(StartUp, keeps_a_viewer_that_can_be_opened)
     EXPECT_FALSE(frm.mnuTextViewer[2].Checked);
 }
 
+TEST_F(StartUp, checks_windows_notepad_for_its_bare_name)
+{
+    machine.environment.variables[u"WINDIR"_s] = u"C:\\WINDOWS"_s;
+    addFile(u"C:\\DATA\\NOTEPAD.EXE"_s);
+    start();
+    EXPECT_EQ(kinovra.TextViewer, u"Notepad.exe"_s);
+    EXPECT_TRUE(frm.mnuTextViewer[1].Checked);
+    EXPECT_FALSE(frm.mnuTextViewer[0].Checked);
+    EXPECT_FALSE(frm.mnuTextViewer[2].Checked);
+}
+
 TEST_F(StartUp, falls_back_to_the_notepad_of_the_windows_directory_without_a_word)
 {
     machine.environment.variables[u"WINDIR"_s] = u"C:\\WINDOWS"_s;
@@ -328,6 +339,15 @@ TEST_F(StartUp, uses_the_program_directory_where_the_data_directory_is_gone)
     EXPECT_EQ(kinovra.DataDir, u"C:\\KINOVRA"_s);
     EXPECT_EQ(frm.dirSelect.Path(), u"C:\\KINOVRA"_s);
     EXPECT_EQ(machine.files.currentDirectory(), u"C:\\KINOVRA"_s);
+}
+
+TEST_F(StartUp, drops_blanks_before_the_program_directory_that_it_uses_instead)
+{
+    machine.environment.variables[u"KINOVRA"_s] = u"  C:\\KINOVRA"_s;
+    machine.settings.stored(u"Datadir"_s, u"Q:\\GONE"_s);
+    start();
+    EXPECT_EQ(kinovra.DataDir, u"C:\\KINOVRA"_s);
+    EXPECT_EQ(frm.dirSelect.Path(), u"C:\\KINOVRA"_s);
 }
 
 TEST_F(StartUp, uses_the_program_directory_where_the_drive_is_gone)

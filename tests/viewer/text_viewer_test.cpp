@@ -628,6 +628,17 @@ TEST_F(TextViewer, an_unknown_size_makes_it_bold_and_checks_none)
     }
 }
 
+TEST_F(TextViewer, an_unknown_colour_changes_nothing)
+{
+    viewer.txtViewer.BackColor = 0x112233;
+    viewer.txtViewer.ForeColor = 0x445566;
+    for (const int index : {-1, 3})
+        shell::dispatch(panel, [&] { viewer::mnuColours_Click(panel, index); });
+    EXPECT_EQ(viewer.txtViewer.BackColor.value(), 0x112233U);
+    EXPECT_EQ(viewer.txtViewer.ForeColor.value(), 0x445566U);
+    EXPECT_THAT(machine.dialogs.shownColours, IsEmpty());
+}
+
 TEST_F(TextViewer, colours_are_compared_with_what_they_were_when_the_dialog_was_asked_for)
 {
     viewer.txtViewer.BackColor = 0xFFFFFF;
