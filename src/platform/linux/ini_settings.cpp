@@ -1,18 +1,34 @@
 #include "platform/linux/ini_settings.h"
 
+#include <QFile>
 #include <QSettings>
 #include <QStringList>
 #include <QVariant>
 
 #include <utility>
 
+#include <sys/stat.h>
+
 namespace platform::host {
+
+namespace {
+
+// Opening a pipe would wait, opening a device may act on it.
+bool isMissingOrRegular(const QString &path)
+{
+    struct stat status = {};
+    return ::stat(QFile::encodeName(path).constData(), &status) != 0 || S_ISREG(status.st_mode);
+}
+
+} // namespace
 
 IniSettings::IniSettings(QString directory) : directory_(std::move(directory)) {}
 
 QString IniSettings::read(const QString &application, const QString &section, const QString &key,
                           const QString &fallback)
 {
+    if (!isMissingOrRegular(fileOf(application)))
+        return fallback;
     const QSettings file(fileOf(application), QSettings::IniFormat);
     const QVariant value = file.value(section + u'/' + key);
     if (!value.isValid())
@@ -25,6 +41,8 @@ QString IniSettings::read(const QString &application, const QString &section, co
 void IniSettings::write(const QString &application, const QString &section, const QString &key,
                         const QString &value)
 {
+    if (!isMissingOrRegular(fileOf(application)))
+        return;
     QSettings file(fileOf(application), QSettings::IniFormat);
     file.setAtomicSyncRequired(true);
     file.setValue(section + u'/' + key, value);

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
+#include <filesystem>
 
 #include <sys/stat.h>
 
@@ -114,4 +114,29 @@ TEST_F(IniFiles, are_made_with_their_directory)
     IniSettings deeper(QString::fromUtf8(scratch.path("not/yet")));
     deeper.write(u"Kinovra"_s, u"Startup"_s, u"Datadir"_s, u"x"_s);
     EXPECT_EQ(deeper.read(u"Kinovra"_s, u"Startup"_s, u"Datadir"_s, QString()), u"x"_s);
+}
+
+TEST_F(IniFiles, that_are_no_regular_files_are_neither_opened_nor_replaced)
+{
+    scratch.makePipe("pipe");
+    scratch.makeLink("Kinovra.ini", "pipe");
+    scratch.makePipe("Ondex2.ini");
+    for (const QString &application : {u"Kinovra"_s, u"Ondex2"_s}) {
+        EXPECT_EQ(settings.read(application, u"Startup"_s, u"Datadir"_s, u"fallback"_s), u"fallback"_s);
+        settings.write(application, u"Startup"_s, u"Datadir"_s, u"new"_s);
+    }
+    EXPECT_EQ(scratch.names(), (QList<QByteArray>{"Kinovra.ini", "Ondex2.ini", "pipe"}));
+    EXPECT_TRUE(std::filesystem::is_fifo(scratch.path("Kinovra.ini").toStdString()));
+    EXPECT_TRUE(std::filesystem::is_fifo(scratch.path("Ondex2.ini").toStdString()));
+}
+
+TEST_F(IniFiles, stay_links_to_what_is_kept_elsewhere)
+{
+    scratch.makeDirectory("kept");
+    scratch.makeFile("kept/settings", "[Startup]\nDatadir=old\n");
+    scratch.makeLink("Kinovra.ini", "kept/settings");
+    settings.write(u"Kinovra"_s, u"Startup"_s, u"Datadir"_s, u"new"_s);
+    EXPECT_EQ(read(), u"new"_s);
+    EXPECT_EQ(scratch.read("kept/settings"), QByteArray("[Startup]\nDatadir=new\n"));
+    EXPECT_TRUE(std::filesystem::is_symlink(scratch.path("Kinovra.ini").toStdString()));
 }
