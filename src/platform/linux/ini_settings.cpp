@@ -1,13 +1,18 @@
 #include "platform/linux/ini_settings.h"
 
+#include <QDir>
 #include <QFile>
+#include <QLockFile>
 #include <QSettings>
 #include <QStringList>
 #include <QVariant>
 
+#include <chrono>
 #include <utility>
 
 #include <sys/stat.h>
+
+using namespace std::chrono_literals;
 
 namespace platform::host {
 
@@ -41,11 +46,25 @@ QString IniSettings::read(const QString &application, const QString &section, co
 void IniSettings::write(const QString &application, const QString &section, const QString &key,
                         const QString &value)
 {
-    if (!isMissingOrRegular(fileOf(application)))
+    if (!isMissingOrRegular(fileOf(application)) || !canBeLocked(fileOf(application)))
         return;
     QSettings file(fileOf(application), QSettings::IniFormat);
     file.setAtomicSyncRequired(true);
     file.setValue(section + u'/' + key, value);
+}
+
+// A QSettings that writes would wait for this lock as long as it takes.
+bool IniSettings::canBeLocked(const QString &file)
+{
+    const QString name = file + QLatin1String(".lock");
+    if (!isMissingOrRegular(name))
+        return false;
+    QDir().mkpath(directory_);
+    QLockFile lock(name);
+    const bool isLocked = lock.tryLock(patience_);
+    // What has not been given back by now is not waited for again, however much is to be written.
+    patience_ = isLocked ? LongestWait : 0ms;
+    return isLocked;
 }
 
 QString IniSettings::fileOf(const QString &application) const

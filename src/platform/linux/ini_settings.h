@@ -2,10 +2,12 @@
 
 #include "platform/settings.h"
 
+#include <chrono>
+
 namespace platform::host {
 
 /// One INI file an application in the user's configuration directory; the group is the section. A file is
-/// written whole or not at all.
+/// written whole or not at all: what cannot be written at once is lost.
 class IniSettings : public Settings
 {
 public:
@@ -18,9 +20,14 @@ public:
                const QString &value) override;
 
 private:
+    // Another panel needs the lock for some milliseconds.
+    static constexpr std::chrono::milliseconds LongestWait{300};
+
+    bool canBeLocked(const QString &file);
     QString fileOf(const QString &application) const;
 
     QString directory_;
+    std::chrono::milliseconds patience_ = LongestWait;
 };
 
 } // namespace platform::host

@@ -3,6 +3,8 @@
 #include "recording_platform.h"
 #include "scratch_directory.h"
 
+#include <QElapsedTimer>
+#include <QLockFile>
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -73,6 +75,16 @@ class IniFiles : public testing::Test
 protected:
     QString read() { return settings.read(u"Kinovra"_s, u"Startup"_s, u"Datadir"_s, u"fallback"_s); }
 
+    // How long it takes to write `times` values, in milliseconds.
+    qint64 timeToWrite(int times)
+    {
+        QElapsedTimer timer;
+        timer.start();
+        for (int i = 0; i < times; ++i)
+            settings.write(u"Kinovra"_s, u"Startup"_s, u"Datadir"_s, u"new"_s);
+        return timer.elapsed();
+    }
+
     support::ScratchDirectory scratch;
     IniSettings settings{QString::fromUtf8(scratch.path())};
 };
@@ -139,4 +151,38 @@ TEST_F(IniFiles, stay_links_to_what_is_kept_elsewhere)
     EXPECT_EQ(read(), u"new"_s);
     EXPECT_EQ(scratch.read("kept/settings"), QByteArray("[Startup]\nDatadir=new\n"));
     EXPECT_TRUE(std::filesystem::is_symlink(scratch.path("Kinovra.ini").toStdString()));
+}
+
+TEST_F(IniFiles, that_another_process_keeps_locked_are_not_waited_for)
+{
+    scratch.makeFile("Kinovra.ini", "[Startup]\nDatadir=old\n");
+    {
+        QLockFile lock(QString::fromUtf8(scratch.path("Kinovra.ini.lock")));
+        ASSERT_TRUE(lock.tryLock());
+        EXPECT_LT(timeToWrite(1), 600);
+        EXPECT_LT(timeToWrite(5), 200);
+        EXPECT_EQ(read(), u"old"_s);
+    }
+    timeToWrite(1);
+    EXPECT_EQ(read(), u"new"_s);
+    EXPECT_EQ(scratch.names(), QList<QByteArray>{"Kinovra.ini"});
+}
+
+TEST_F(IniFiles, whose_lock_can_never_be_had_are_left_whole_at_once)
+{
+    scratch.makeFile("Kinovra.ini", "[Startup]\nDatadir=old\n");
+    scratch.makeDirectory("Kinovra.ini.lock");
+    EXPECT_LT(timeToWrite(5), 200);
+    scratch.remove("Kinovra.ini.lock");
+    scratch.makePipe("Kinovra.ini.lock");
+    EXPECT_LT(timeToWrite(5), 200);
+    EXPECT_EQ(scratch.read("Kinovra.ini"), QByteArray("[Startup]\nDatadir=old\n"));
+}
+
+TEST_F(IniFiles, that_a_panel_left_locked_when_it_was_ended_are_written)
+{
+    // No process has the largest number.
+    scratch.makeFile("Kinovra.ini.lock", "4194304\nkinovra\n" + QSysInfo::machineHostName().toUtf8() + '\n');
+    EXPECT_LT(timeToWrite(1), 600);
+    EXPECT_EQ(read(), u"new"_s);
 }
