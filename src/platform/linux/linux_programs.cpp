@@ -225,7 +225,7 @@ LinuxPrograms::Command LinuxPrograms::programCommand(const Start &start, const Q
 {
     switch (programKindOf(program)) {
     case ProgramKind::Native:
-        return nativeCommand(start, program);
+        return nativeCommand(start, directory, program);
     case ProgramKind::WindowsConsole:
     case ProgramKind::WindowsGui: {
         const QByteArray wine = findInPath("wine");
@@ -250,13 +250,15 @@ LinuxPrograms::Command LinuxPrograms::programCommand(const Start &start, const Q
     return {.failure = u"it is not a program"_s, .failureValue = open_failure::BadFormat};
 }
 
-LinuxPrograms::Command LinuxPrograms::nativeCommand(const Start &start, const QByteArray &program)
+LinuxPrograms::Command LinuxPrograms::nativeCommand(const Start &start, const QByteArray &directory,
+                                                    const QByteArray &program)
 {
     // A terminal would not tell.
     if (::access(program.constData(), X_OK) != 0)
         return {.failure = reason(EACCES), .failureValue = open_failure::AccessDenied};
     const QByteArray interpreter = interpreterOf(program);
-    if (!interpreter.isEmpty() && ::access(interpreter.constData(), X_OK) != 0)
+    const QByteArray place = interpreter.startsWith('/') ? interpreter : directory + '/' + interpreter;
+    if (!interpreter.isEmpty() && ::access(place.constData(), X_OK) != 0)
         return {.failure = reason(ENOENT)};
     if (start.isViewer)
         return {.arguments = QList<QByteArray>{program} + encoded(documentArguments(start)),

@@ -31,7 +31,7 @@ private:
     static Command openerCommand(const QByteArray &argument);
     Command accessoryCommand(const Start &start);
     Command programCommand(const Start &start, const QByteArray &directory, const QByteArray &program);
-    Command nativeCommand(const Start &start, const QByteArray &program);
+    Command nativeCommand(const Start &start, const QByteArray &directory, const QByteArray &program);
     QStringList documentArguments(const Start &start);
     QList<QByteArray> inTerminal(const QList<QByteArray> &command, double value);
     void terminalEnded(double value, const Ending &ending);

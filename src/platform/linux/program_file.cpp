@@ -4,6 +4,8 @@
 
 #include <QtEndian>
 
+#include <algorithm>
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -74,8 +76,11 @@ QByteArray interpreterOf(const QByteArray &hostPath)
     const QByteArray start = startOf(hostPath);
     if (!start.startsWith("#!"))
         return {};
-    const QByteArray line = start.mid(2, start.indexOf('\n') - 2).simplified();
-    return line.left(line.indexOf(' '));
+    // As the system reads it: a carriage return is part of the name.
+    const auto isBlank = [](char c) { return c == ' ' || c == '\t'; };
+    const auto isBehindName = [isBlank](char c) { return isBlank(c) || c == '\n' || c == '\0'; };
+    const auto name = std::find_if_not(start.begin() + 2, start.end(), isBlank);
+    return {name, std::find_if(name, start.end(), isBehindName) - name};
 }
 
 } // namespace platform::host

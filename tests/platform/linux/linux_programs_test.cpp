@@ -801,10 +801,23 @@ TEST_F(LinuxTerminals, may_fail_once_the_program_has_ended)
 TEST_F(LinuxTerminals, do_not_hide_why_nothing_was_started)
 {
     scratch.makeFile("bin/forbidden.exe", "#!/bin/true\n");
-    scratch.makeExecutable("bin/orphan.exe", "#! /no/such/interpreter -x\n");
     EXPECT_EQ(programs.start(open(at(u"bin\\forbidden.exe"_s), u"x"_s)).failure, u"it may not be executed"_s);
-    EXPECT_EQ(programs.start(open(at(u"bin\\orphan.exe"_s), u"x"_s)).failure,
-              u"something that it needs to run was not found"_s);
+    for (const char *firstLine : {"#! /no/such/interpreter -x\n", "#!/no/such/interpreter\n",
+                                  "#!/no/such/interpreter", "#!/bin/sh\r\n", "#!no-such-interpreter\n"}) {
+        scratch.makeExecutable("bin/orphan.exe", firstLine);
+        EXPECT_EQ(programs.start(open(at(u"bin\\orphan.exe"_s), u"x"_s)).failure,
+                  u"something that it needs to run was not found"_s)
+            << firstLine;
+    }
+}
+
+TEST_F(LinuxTerminals, show_scripts_whose_interpreter_is_in_the_directory_they_start_in)
+{
+    install("interpreter");
+    scratch.makeExecutable("Program Files/script.exe", "#!interpreter\n");
+    EXPECT_EQ(programs.start(open(at(u"Program Files\\script.exe"_s), u"x"_s)).failure, QString());
+    waitForEnd();
+    EXPECT_EQ(ends.back().ending.code, 0);
 }
 
 TEST_F(LinuxTerminals, show_windows_console_programs_and_no_others)

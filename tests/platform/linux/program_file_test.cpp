@@ -5,6 +5,7 @@
 
 #include <sys/stat.h>
 
+using platform::host::interpreterOf;
 using platform::host::ProgramKind;
 using platform::host::programKind;
 using platform::host::programKindOf;
@@ -78,4 +79,22 @@ TEST(ProgramKind, of_what_cannot_be_read_is_unknown)
     }
     // The process's own memory, of which nothing lies at its beginning.
     EXPECT_EQ(programKindOf("/proc/self/mem"), ProgramKind::Unknown);
+}
+
+TEST(Interpreter, is_the_first_word_of_a_scripts_first_line)
+{
+    const support::ScratchDirectory scratch;
+    const auto interpreter = [&scratch](const QByteArray &content) {
+        scratch.makeFile("program", content);
+        return interpreterOf(scratch.path("program"));
+    };
+    EXPECT_EQ(interpreter("#!/bin/sh\nexit 0\n"), QByteArray("/bin/sh"));
+    EXPECT_EQ(interpreter("#!/bin/sh"), QByteArray("/bin/sh"));
+    EXPECT_EQ(interpreter("#!/usr/bin/env python3 -x\nimport sys\n"), QByteArray("/usr/bin/env"));
+    EXPECT_EQ(interpreter("#! \t/bin/sh\t-e\n"), QByteArray("/bin/sh"));
+    EXPECT_EQ(interpreter("#!/bin/sh\r\n"), QByteArray("/bin/sh\r"));
+    EXPECT_EQ(interpreter("#!perl\n"), QByteArray("perl"));
+    EXPECT_EQ(interpreter("#!\n/bin/sh\n"), QByteArray());
+    EXPECT_EQ(interpreter("#!"), QByteArray());
+    EXPECT_EQ(interpreter("MZ\n"), QByteArray());
 }
