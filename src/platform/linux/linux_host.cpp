@@ -4,6 +4,7 @@
 #include "platform/linux/linux_file_system.h"
 #include "platform/linux/linux_programs.h"
 #include "platform/linux/linux_registry.h"
+#include "platform/linux/process_preparation.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -60,7 +61,11 @@ private:
 
 } // namespace
 
-void prepareProcess() {}
+void prepareProcess()
+{
+    host::ignoreBrokenPipes();
+    host::openStandardStreams();
+}
 
 std::unique_ptr<Host> openHost(int argc, char *argv[])
 {
