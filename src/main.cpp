@@ -15,6 +15,8 @@ int main(int argc, char *argv[])
     platform::prepareProcess();
     // The command line is the panel's: no switch in it is one of Qt's.
     int nameAlone = std::min(argc, 1);
+    // A bar of the desktop's own would be asked for on the session bus, before the window tells not to.
+    QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     QApplication application(nameAlone, argv);
     QApplication::setApplicationName(QStringLiteral("kinovra"));
     QApplication::setWindowIcon(views::applicationIcon());

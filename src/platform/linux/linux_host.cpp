@@ -5,6 +5,7 @@
 #include "platform/linux/linux_programs.h"
 #include "platform/linux/linux_registry.h"
 #include "platform/linux/process_preparation.h"
+#include "platform/linux/session_bus.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -65,6 +66,7 @@ void prepareProcess()
 {
     host::ignoreBrokenPipes();
     host::openStandardStreams();
+    host::avoidSilentSessionBus();
 }
 
 std::unique_ptr<Host> openHost(int argc, char *argv[])

@@ -1,6 +1,7 @@
 #include "platform/linux/process_starter.h"
 
 #include "platform/linux/file_descriptor.h"
+#include "platform/linux/session_bus.h"
 
 #include <QSocketNotifier>
 
@@ -12,8 +13,6 @@
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
-
-extern char **environ; // NOLINT(readability-redundant-declaration): not declared everywhere
 
 namespace platform::host {
 
@@ -93,9 +92,10 @@ int ProcessStarter::start(const QList<QByteArray> &arguments, const QByteArray &
     argv.push_back(nullptr);
 
     const SpawnSettings settings(directory);
+    const std::vector<char *> environment = environmentOfPrograms();
     pid_t process = 0;
-    const int error =
-        ::posix_spawn(&process, argv[0], settings.actions(), settings.attributes(), argv.data(), environ);
+    const int error = ::posix_spawn(&process, argv[0], settings.actions(), settings.attributes(), argv.data(),
+                                    environment.data());
     if (error == 0)
         watch(process, std::move(ended));
     return error;
