@@ -109,8 +109,13 @@ void LinuxFileSystem::changeDrive(const QString &drive)
 void LinuxFileSystem::changeDirectory(const QString &path)
 {
     const QString absolute = current_.absolute(path);
-    const auto found = hostDirectory(absolute);
+    const auto found = lookup_.find(absolute);
     if (!found)
+        throw RuntimeError(ErrorNumber::PathNotFound);
+    struct stat status = {};
+    if (::stat(found->constData(), &status) != 0)
+        raise(errno);
+    if (!S_ISDIR(status.st_mode))
         throw RuntimeError(ErrorNumber::PathNotFound);
     const QChar drive = absolute.at(0);
     if (drive == current_.drive() ? ::chdir(found->constData()) != 0
