@@ -63,6 +63,14 @@ public:
     }
 };
 
+// Escape leaves the bar, and Alt by itself does.
+bool leaves(const QEvent *event)
+{
+    const auto isKey = [event](Qt::Key key) { return static_cast<const QKeyEvent *>(event)->key() == key; };
+    return (event->type() == QEvent::KeyPress && isKey(Qt::Key_Escape))
+           || (event->type() == QEvent::KeyRelease && isKey(Qt::Key_Alt));
+}
+
 QChar accessKey(const QString &caption)
 {
     const QKeySequence mnemonic = QKeySequence::mnemonic(caption);
@@ -234,8 +242,9 @@ void Menus::openAlone(QAction *title)
 
 void Menus::returnFocus()
 {
-    if (bar_->hasFocus() && returnTo_)
-        returnTo_->setFocus(Qt::MenuBarFocusReason);
+    if (!returnTo_ || !bar_->hasFocus() || bar_->activeAction() != nullptr)
+        return;
+    returnTo_->setFocus(Qt::MenuBarFocusReason);
     returnTo_ = nullptr;
 }
 
@@ -270,7 +279,7 @@ bool Menus::eventFilter(QObject *watched, QEvent *event)
     }
     if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
         bar_->update();
-    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape)
+    if (leaves(event))
         QMetaObject::invokeMethod(this, &Menus::returnFocus, Qt::QueuedConnection);
     return QObject::eventFilter(watched, event);
 }
