@@ -118,8 +118,10 @@ TEST_F(LinuxCommandLine, and_variables_are_in_the_path_language)
         EXPECT_EQ(environment.variable(u"KINOVRA"_s), u"Z:\\opt\\kv"_s);
     }
     {
-        const support::ScopedVariable variable("KINOVRA", R"(\opt\kv\)");
-        EXPECT_EQ(environment.variable(u"KINOVRA"_s), u"\\opt\\kv"_s);
+        // A directory of the host may be called so, but is not meant.
+        scratch.makeDirectory(R"(opt\kv)");
+        const support::ScopedVariable variable("KINOVRA", R"(opt\kv\)");
+        EXPECT_EQ(environment.variable(u"KINOVRA"_s), u"opt\\kv"_s);
     }
     {
         const support::ScopedVariable variable("KINOVRA", "Z:\\");

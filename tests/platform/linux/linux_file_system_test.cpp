@@ -237,6 +237,7 @@ TEST_F(LinuxFiles, take_no_program_that_has_gone_since_the_moment_began)
     scratch.makeExecutable("kinemati", "#!/bin/true\n");
     files.directory(base, Reading::Anew);
     files.beginMoment();
+    EXPECT_EQ(files.testReading(upper(u"kinemati.exe"_s)), 0);
     scratch.remove("kinemati");
     EXPECT_EQ(files.testReading(upper(u"kinemati.exe"_s)), 53);
     EXPECT_EQ(files.hostProgram(upper(u"kinemati.exe"_s)), std::nullopt);
