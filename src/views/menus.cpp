@@ -236,7 +236,8 @@ void Menus::asks(QMenu *menu, controls::MenuItem &item)
 void Menus::openAlone(QAction *title)
 {
     // The window's own; it may not be active again yet.
-    returnTo_ = bar_->window()->focusWidget();
+    if (!bar_->hasFocus())
+        returnTo_ = bar_->window()->focusWidget();
     bar_->setActiveAction(title);
 }
 
@@ -261,11 +262,7 @@ bool Menus::openFirstOf(const QKeySequence &key)
     if (titles.isEmpty())
         return false;
     const qsizetype next = (titles.indexOf(bar_->activeAction()) + 1) % titles.size();
-    const bool isInBar = bar_->hasFocus();
-    const QPointer<QWidget> before = returnTo_;
     openAlone(titles[next]);
-    if (isInBar)
-        returnTo_ = before;
     titles[next]->menu()->setActiveAction(titles[next]->menu()->actions().value(0));
     return true;
 }
