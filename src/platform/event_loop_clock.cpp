@@ -33,9 +33,14 @@ void EventLoopClock::letEventsRunUntil(double until)
     QTimer timer;
     timer.setSingleShot(true);
     timer.setTimerType(Qt::PreciseTimer);
-    QObject::connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
-    // A millisecond more than the whole ones: the difference of two times may be a hair too small.
-    timer.start(static_cast<int>(std::floor(wait * MillisecondsPerSecond)) + 1);
+    // A timer may be early, and the difference of two times a hair too small.
+    QObject::connect(&timer, &QTimer::timeout, &loop, [this, until, &timer, &loop] {
+        if (seconds() < until)
+            timer.start(1);
+        else
+            loop.quit();
+    });
+    timer.start(static_cast<int>(std::ceil(wait * MillisecondsPerSecond)));
     // The end of the program leaves this loop too.
     loop.exec();
 }
