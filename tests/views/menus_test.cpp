@@ -189,25 +189,6 @@ TEST_F(MenuViews, ask_with_all_menus_closed_and_open_again_afterwards)
     EXPECT_EQ(messages().size(), 1);
 }
 
-TEST_F(MenuViews, give_the_focus_back_though_a_question_came_between)
-{
-    machine.files.remove(u"C:\\DATA\\walk1.cfb"_s);
-    machine.files.remove(u"C:\\DATA\\run1.cfb"_s);
-    click(frm.cmdRefresh);
-    QListView *datafiles = list(u"Data files"_s);
-    datafiles->setFocus();
-    machine.dialogs.answers = {platform::No};
-    QTest::keyClick(&window(), Qt::Key_P, Qt::AltModifier);
-    EXPECT_TRUE(waitUntil([this] { return messages().size() == 1; }));
-    settle();
-    ASSERT_TRUE(menu(u"&Programs"_s)->isVisible());
-    QTest::keyClick(menu(u"&Programs"_s), Qt::Key_Escape);
-    EXPECT_TRUE(bar()->hasFocus());
-    QTest::keyClick(bar(), Qt::Key_Escape);
-    settle();
-    EXPECT_TRUE(datafiles->hasFocus());
-}
-
 TEST_F(MenuViews, that_share_a_letter_open_the_first_one_each_time)
 {
     QListView *datafiles = list(u"Data files"_s);
