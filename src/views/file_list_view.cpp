@@ -63,13 +63,16 @@ FileListView::FileListView(controls::FileList &list, EventRunner &events, FileLi
     events.addHolder([this] { runHeldBack(); });
 }
 
+// Names that come or go above the rows in sight do not move these.
 void FileListView::showNames()
 {
     const QScopedValueRollback showing(showing_, true);
     const int scrolled = verticalScrollBar()->value();
+    const QString uppermost = scrolled > 0 ? model_.names().at(scrolled) : QString();
     model_.show(list_.Names);
     executeDelayedItemsLayout();
-    verticalScrollBar()->setValue(scrolled);
+    const int row = uppermost.isEmpty() ? 0 : list_.Names.value().indexOf(uppermost);
+    verticalScrollBar()->setValue(row >= 0 ? row : scrolled);
 }
 
 void FileListView::showSelection()
@@ -242,6 +245,7 @@ void FileListView::press(QMouseEvent *event, bool twice)
     const QModelIndex aimed = indexAt(event->position().toPoint());
     const QString underPointer = aimed.isValid() ? model_.names().at(aimed.row()) : QString();
     const QString name = twice && !pressedName_.isEmpty() ? pressedName_ : underPointer;
+    const int scrolled = verticalScrollBar()->value();
     const Qt::MouseButtons down = QApplication::mouseButtons();
     events_.runPending();
     // A box came between, and took the release.
@@ -257,7 +261,7 @@ void FileListView::press(QMouseEvent *event, bool twice)
         const int row = model_.names().indexOf(name);
         if (row >= 0) {
             if (aimed.isValid())
-                verticalScrollBar()->setValue(verticalScrollBar()->value() + row - aimed.row());
+                verticalScrollBar()->setValue(scrolled + row - aimed.row());
             selectByUser(row);
             press_ = Press::Row;
         }

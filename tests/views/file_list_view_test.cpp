@@ -399,6 +399,40 @@ TEST_F(FileListViews, keep_selection_and_place_through_a_refresh)
     EXPECT_EQ(datafileClicks, 1);
 }
 
+TEST_F(FileListViews, keep_the_rows_in_sight_where_they_are_when_names_come_above)
+{
+    for (int i = 0; i < 40; ++i)
+        addFile(u"C:\\DATA\\p%1.plt"_s.arg(i, 2, 10, QChar(u'0')));
+    click(frm.cmdRefresh);
+    QListView *plots = list(u"Graphs (.PLT)"_s);
+    plots->scrollTo(plots->model()->index(20, 0), QAbstractItemView::PositionAtTop);
+    const QPoint position = middleOf(plots, 22);
+    QTest::mouseClick(plots->viewport(), Qt::LeftButton, Qt::NoModifier, position);
+    EXPECT_EQ(plots->indexAt(position).data().toString(), u"p21.plt"_s);
+    addData({"b.plt", "c.plt", "d.plt"});
+    click(frm.cmdRefresh);
+    settle();
+    EXPECT_EQ(plots->indexAt(position).data().toString(), u"p21.plt"_s);
+    EXPECT_EQ(frm.filPlots.FileName(), u"p21.plt"_s);
+}
+
+TEST_F(FileListViews, stay_at_their_first_row_and_where_the_uppermost_name_is_gone)
+{
+    for (int i = 0; i < 40; ++i)
+        addFile(u"C:\\DATA\\p%1.plt"_s.arg(i, 2, 10, QChar(u'0')));
+    click(frm.cmdRefresh);
+    QListView *plots = list(u"Graphs (.PLT)"_s);
+    addData({"b.plt"});
+    click(frm.cmdRefresh);
+    settle();
+    EXPECT_EQ(plots->verticalScrollBar()->value(), 0);
+    plots->scrollTo(plots->model()->index(20, 0), QAbstractItemView::PositionAtTop);
+    machine.files.remove(u"C:\\DATA\\p18.plt"_s);
+    click(frm.cmdRefresh);
+    settle();
+    EXPECT_EQ(plots->verticalScrollBar()->value(), 20);
+}
+
 TEST_F(FileListViews, follow_what_commands_select)
 {
     frm.filDatafiles.ListIndex = 3;
