@@ -2,6 +2,7 @@
 
 #include "platform/display_text.h"
 #include "views/fitted_font.h"
+#include "views/frame_line.h"
 #include "views/stride_picture.h"
 #include "views/twips.h"
 
@@ -85,6 +86,7 @@ protected:
         drawStride(painter, field, palette());
         painter.end();
         QFrame::paintEvent(event);
+        drawFrameLine(*this);
     }
 
 private:

@@ -4,6 +4,7 @@
 #include "views/captions.h"
 #include "views/copyable_text.h"
 #include "views/elided_label.h"
+#include "views/frame_line.h"
 #include "views/main_window_spacing.h"
 
 #include <QGridLayout>
@@ -30,6 +31,12 @@ ChosenFrame::ChosenFrame(shell::frmKinovra &frm)
     addValue(grid, 2, 2, u"Graphics to:"_s, frm.lblGraphics[1]);
     grid->setColumnStretch(1, 3);
     grid->setColumnStretch(3, 1);
+}
+
+void ChosenFrame::paintEvent(QPaintEvent *event)
+{
+    QFrame::paintEvent(event);
+    drawFrameLine(*this);
 }
 
 QWidget *ChosenFrame::addValue(QGridLayout *grid, int row, int column, const QString &caption,

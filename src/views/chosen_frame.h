@@ -18,6 +18,9 @@ class ChosenFrame : public QFrame
 public:
     explicit ChosenFrame(shell::frmKinovra &frm);
 
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
 private:
     QWidget *addValue(QGridLayout *grid, int row, int column, const QString &caption, controls::Label &value);
     void addCommand(QGridLayout *grid, int row, int column, controls::Label &command);

@@ -1,11 +1,11 @@
 #include "views/classic_list.h"
 
+#include "views/frame_line.h"
 #include "views/plain_text.h"
 #include "views/row_delegate.h"
 
 #include <QEvent>
 #include <QHelpEvent>
-#include <QPainter>
 #include <QToolTip>
 
 namespace views {
@@ -22,11 +22,8 @@ ClassicList::ClassicList(QWidget *parent) : QListView(parent)
 bool ClassicList::event(QEvent *event)
 {
     const bool handled = QListView::event(event);
-    if (event->type() == QEvent::Paint && hasFocus()) {
-        QPainter painter(this);
-        painter.setPen(palette().color(QPalette::Highlight));
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
-    }
+    if (event->type() == QEvent::Paint)
+        drawFrameLine(*this);
     return handled;
 }
 

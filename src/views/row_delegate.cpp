@@ -1,8 +1,11 @@
 #include "views/row_delegate.h"
 
+#include "views/mixed_colour.h"
+
 #include <QWidget>
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace views {
 
@@ -10,11 +13,13 @@ namespace {
 
 constexpr int Air = 4;
 
-// Mostly the second colour.
-QColor mixed(const QColor &a, const QColor &b)
+// Some styles make the selection of a list that has not the focus pale themselves.
+bool isPale(const QColor &selection, const QColor &base)
 {
-    const auto mix = [](int x, int y) { return (x + 2 * y) / 3; };
-    return {mix(a.red(), b.red()), mix(a.green(), b.green()), mix(a.blue(), b.blue())};
+    constexpr int Least = 60;
+    return std::abs(selection.red() - base.red()) < Least
+           && std::abs(selection.green() - base.green()) < Least
+           && std::abs(selection.blue() - base.blue()) < Least;
 }
 
 } // namespace
@@ -41,8 +46,9 @@ void RowDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelInde
     if (option->widget == nullptr || option->widget->hasFocus())
         return;
     QPalette &palette = option->palette;
-    palette.setColor(QPalette::Highlight,
-                     mixed(palette.color(QPalette::Highlight), palette.color(QPalette::Base)));
+    const QColor selection = palette.color(QPalette::Highlight);
+    const QColor base = palette.color(QPalette::Base);
+    palette.setColor(QPalette::Highlight, isPale(selection, base) ? selection : mixed(selection, base));
     palette.setColor(QPalette::HighlightedText, palette.color(QPalette::Text));
 }
 

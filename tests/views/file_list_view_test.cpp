@@ -433,6 +433,24 @@ TEST_F(FileListViews, stay_at_their_first_row_and_where_the_uppermost_name_is_go
     EXPECT_EQ(plots->verticalScrollBar()->value(), 20);
 }
 
+TEST_F(FileListViews, show_what_is_selected_without_the_focus_too)
+{
+    QListView *binaries = list(u"Binary files"_s);
+    clickRow(binaries, 0);
+    button(u"Exit"_s)->setFocus(Qt::TabFocusReason);
+    const auto rowColour = [&](const QColor &selection) {
+        QPalette palette = binaries->palette();
+        palette.setColor(QPalette::Base, Qt::white);
+        palette.setColor(QPalette::Highlight, selection);
+        binaries->setPalette(palette);
+        const QPoint blank(binaries->viewport()->width() - 4, middleOf(binaries, 0).y());
+        return binaries->viewport()->grab().toImage().pixelColor(blank);
+    };
+    EXPECT_EQ(rowColour(QColor(0x30, 0x90, 0xF0)), QColor(0xBA, 0xDA, 0xFA));
+    // A style may have made it pale already.
+    EXPECT_EQ(rowColour(QColor(0xD8, 0xD8, 0xD8)), QColor(0xD8, 0xD8, 0xD8));
+}
+
 TEST_F(FileListViews, follow_what_commands_select)
 {
     frm.filDatafiles.ListIndex = 3;
