@@ -208,6 +208,19 @@ TEST_F(NewModel, asks_again_about_a_model_that_has_changed_while_the_question_wa
     EXPECT_EQ(content("walk2.cfb"), "two, improved") << "what came meanwhile is not lost";
 }
 
+TEST_F(NewModel, is_made_where_the_model_to_be_replaced_goes_as_it_is_looked_at)
+{
+    machine.files.beforeStamp = [this] {
+        machine.files.remove(u"C:\\DATA\\walk2.Cfb"_s);
+        machine.files.nextMoment();
+    };
+    machine.dialogs.answers = {platform::Yes};
+    choose(u"C:\\MODELS\\base.CFB"_s, u"C:\\DATA\\walk2"_s);
+    EXPECT_THAT(machine.dialogs.messages, ElementsAre(replace(u"C:\\DATA\\walk2.Cfb"_s)));
+    EXPECT_EQ(content("walk2.cfb"), "base");
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"walk2.CFB is ready."_s);
+}
+
 TEST_F(NewModel, stays_as_it_is_where_it_is_the_chosen_model_itself)
 {
     machine.files.addSecondName(u"C:\\DATA\\walk2.Cfb"_s, u"C:\\MODELS\\same.cfb"_s);

@@ -292,6 +292,8 @@ QString MemoryFileSystem::shortName(const QString &path)
 
 std::optional<platform::FileStamp> MemoryFileSystem::stamp(const QString &path)
 {
+    if (beforeStamp)
+        beforeStamp();
     const Node *node = find(current_.absolute(path));
     if (node == nullptr)
         return std::nullopt;

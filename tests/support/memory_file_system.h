@@ -61,6 +61,9 @@ public:
 
     /// Called before each call that may fail, with its name; it may raise a RuntimeError.
     std::function<void(const QString &call)> beforeCall;
+
+    /// Called before the state of a file is looked at.
+    std::function<void()> beforeStamp;
     /// What was tested for reading, as it was asked for.
     QStringList tested;
     /// How many directories were read, and how many of them anew.
