@@ -63,14 +63,6 @@ public:
     }
 };
 
-// Escape leaves the bar, and Alt by itself does.
-bool leaves(const QEvent *event)
-{
-    const auto isKey = [event](Qt::Key key) { return static_cast<const QKeyEvent *>(event)->key() == key; };
-    return (event->type() == QEvent::KeyPress && isKey(Qt::Key_Escape))
-           || (event->type() == QEvent::KeyRelease && isKey(Qt::Key_Alt));
-}
-
 QChar accessKey(const QString &caption)
 {
     const QKeySequence mnemonic = QKeySequence::mnemonic(caption);
@@ -102,6 +94,7 @@ Menus::Menus(QMenuBar *bar, EventRunner &events, std::vector<MenuLine> lines)
     rest_->callOnTimeout(this, &Menus::askWhereTheUserRests);
     bar_->setStyle(style_);
     bar_->installEventFilter(this);
+    connect(qApp, &QApplication::focusChanged, this, &Menus::focusMoves);
     build();
 }
 
@@ -179,6 +172,7 @@ void Menus::bindMenu(QMenu *menu, size_t menuLine)
     });
     connect(menu, &QMenu::aboutToHide, this, [this] {
         passing_ = true;
+        returnFocusLater();
         QMetaObject::invokeMethod(
             this, [this] { passing_ = false; }, Qt::QueuedConnection);
     });
@@ -232,21 +226,43 @@ void Menus::asks(QMenu *menu, controls::MenuItem &item)
     openAlone(menu->menuAction());
 }
 
-// The bar gives the focus back only where it has opened the menu for the keyboard itself.
 void Menus::openAlone(QAction *title)
 {
-    // The window's own; it may not be active again yet.
+    // The window may not be active again yet, and the focus then comes from nowhere.
     if (!bar_->hasFocus())
         returnTo_ = bar_->window()->focusWidget();
     bar_->setActiveAction(title);
 }
 
+void Menus::focusMoves(QWidget *from, QWidget *to)
+{
+    if (to != bar_)
+        return;
+    if (from)
+        returnTo_ = from;
+    returnFocusLater();
+}
+
+// Once it is known which title is active then.
+void Menus::returnFocusLater()
+{
+    QMetaObject::invokeMethod(this, &Menus::returnFocus, Qt::QueuedConnection);
+}
+
+// The bar itself forgets whom it has the focus from where a second menu is opened from the keyboard.
 void Menus::returnFocus()
 {
     if (!returnTo_ || !bar_->hasFocus() || bar_->activeAction() != nullptr)
         return;
-    returnTo_->setFocus(Qt::MenuBarFocusReason);
-    returnTo_ = nullptr;
+    // The command may have hidden it: then its next neighbour.
+    QWidget *heir = returnTo_;
+    do {
+        if (heir->isVisible() && heir->isEnabled() && heir->focusPolicy() != Qt::NoFocus) {
+            heir->setFocus(Qt::MenuBarFocusReason);
+            return;
+        }
+        heir = heir->nextInFocusChain();
+    } while (heir != returnTo_);
 }
 
 // Titles share letters. The first one is meant, each time; and the next one where the keyboard is on the
@@ -276,8 +292,9 @@ bool Menus::eventFilter(QObject *watched, QEvent *event)
     }
     if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
         bar_->update();
-    if (leaves(event))
-        QMetaObject::invokeMethod(this, &Menus::returnFocus, Qt::QueuedConnection);
+    // Escape leaves the bar, and Alt by itself does.
+    if (event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease)
+        returnFocusLater();
     return QObject::eventFilter(watched, event);
 }
 

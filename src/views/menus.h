@@ -53,6 +53,8 @@ private:
     void leaveBar();
     void openAlone(QAction *title);
     bool openFirstOf(const QKeySequence &key);
+    void focusMoves(QWidget *from, QWidget *to);
+    void returnFocusLater();
     void returnFocus();
 
     QMenuBar *bar_;
@@ -64,10 +66,9 @@ private:
     QTimer *rest_;             ///< until a submenu that has opened is meant
     QMenu *submenu_ = nullptr; ///< that submenu
     controls::MenuItem *submenuItem_ = nullptr;
-    bool passing_ = false;   ///< another menu has just closed: the user passes along the menu bar
-    bool reopening_ = false; ///< a menu opens again after its question
-    QPointer<QWidget>
-        returnTo_; ///< what had the focus before a menu was opened that the bar does not know of
+    bool passing_ = false;       ///< another menu has just closed: the user passes along the menu bar
+    bool reopening_ = false;     ///< a menu opens again after its question
+    QPointer<QWidget> returnTo_; ///< what had the focus before the bar
 };
 
 } // namespace views

@@ -220,6 +220,89 @@ TEST_F(MenuViews, that_share_a_letter_open_the_next_one_where_the_keyboard_is_on
     EXPECT_TRUE(datafiles->hasFocus());
 }
 
+// As on a keyboard: Alt goes down first, and what has the keyboard then gets its release.
+static QWidget *keyboard()
+{
+    QWidget *popup = QApplication::activePopupWidget();
+    return popup ? popup : QApplication::focusWidget();
+}
+
+static void altAnd(Qt::Key key)
+{
+    QTest::keyPress(keyboard(), Qt::Key_Alt, Qt::AltModifier);
+    QTest::keyClick(keyboard(), key, Qt::AltModifier);
+    QTest::keyRelease(keyboard(), Qt::Key_Alt);
+    QTest::qWait(20);
+}
+
+TEST_F(MenuViews, give_the_focus_back_however_they_are_left)
+{
+    QListView *datafiles = list(u"Data files"_s);
+    const auto escape = [] {
+        QTest::keyClick(keyboard(), Qt::Key_Escape);
+        settle();
+    };
+    const auto alt = [] { QTest::keyClick(keyboard(), Qt::Key_Alt); };
+    const std::function<void()> ways[]{
+        [&] { altAnd(Qt::Key_F), QTest::keyClick(keyboard(), Qt::Key_N); },
+        [&] { altAnd(Qt::Key_F), escape(), altAnd(Qt::Key_F), QTest::keyClick(keyboard(), Qt::Key_N); },
+        [&] { altAnd(Qt::Key_F), escape(), altAnd(Qt::Key_D), escape(), escape(); },
+        [&] { altAnd(Qt::Key_F), escape(), alt(); },
+        [&] { alt(), alt(); },
+        [&] { alt(), escape(); },
+        [&] { alt(), altAnd(Qt::Key_F), escape(), escape(); },
+    };
+    for (size_t way = 0; way < std::size(ways); ++way) {
+        datafiles->setFocus();
+        ways[way]();
+        settle();
+        EXPECT_TRUE(datafiles->hasFocus()) << way;
+    }
+}
+
+TEST_F(MenuViews, give_the_focus_back_though_a_question_came_between)
+{
+    machine.files.remove(u"C:\\DATA\\walk1.cfb"_s);
+    machine.files.remove(u"C:\\DATA\\run1.cfb"_s);
+    click(frm.cmdRefresh);
+    QListView *datafiles = list(u"Data files"_s);
+    datafiles->setFocus();
+    machine.dialogs.answers = {platform::No};
+    altAnd(Qt::Key_P);
+    EXPECT_TRUE(waitUntil([this] { return messages().size() == 1; }));
+    settle();
+    ASSERT_TRUE(menu(u"&Programs"_s)->isVisible());
+    QTest::keyClick(keyboard(), Qt::Key_Escape);
+    QTest::keyClick(keyboard(), Qt::Key_Escape);
+    settle();
+    EXPECT_TRUE(datafiles->hasFocus());
+}
+
+TEST_F(MenuViews, give_the_focus_back_that_a_window_gives_them_again)
+{
+    QListView *datafiles = list(u"Data files"_s);
+    datafiles->setFocus();
+    bar()->setFocus(Qt::ActiveWindowFocusReason);
+    settle();
+    EXPECT_TRUE(datafiles->hasFocus());
+}
+
+TEST_F(MenuViews, give_the_focus_to_a_neighbour_where_the_command_has_hidden_whose_it_was)
+{
+    addFile(u"C:\\KINOVRA\\graphs\\STICK.GRA"_s);
+    QPushButton *create = button(u"Create Graph(s)"_s);
+    create->setFocus();
+    altAnd(Qt::Key_V);
+    QTest::keyClick(keyboard(), Qt::Key_Escape);
+    altAnd(Qt::Key_V);
+    QTest::keyClick(keyboard(), Qt::Key_G);
+    settle();
+    EXPECT_FALSE(create->isVisible());
+    ASSERT_NE(QApplication::focusWidget(), nullptr);
+    EXPECT_NE(QApplication::focusWidget(), bar());
+    EXPECT_TRUE(QApplication::focusWidget()->isVisible());
+}
+
 TEST_F(MenuViews, show_which_title_has_the_keyboard)
 {
     const QImage unmarked = bar()->grab().toImage();
