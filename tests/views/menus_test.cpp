@@ -112,6 +112,8 @@ TEST_F(MenuViews, say_why_an_item_is_greyed)
     frm.mnuProg[3].enableUnless(u"Needs <WALK1>.CN"_s);
     EXPECT_EQ(kinematics->statusTip(), u"Needs <WALK1>.CN"_s);
     EXPECT_EQ(kinematics->toolTip(), u"<span>Needs &lt;WALK1&gt;.CN</span>"_s);
+    frm.mnuProg[3].enableUnless(u"Needs e\u202Egd.CN"_s);
+    EXPECT_EQ(kinematics->statusTip(), u"Needs e\uFFFDgd.CN"_s);
     frm.mnuProg[3].enableUnless(QString());
     EXPECT_TRUE(kinematics->isEnabled());
     EXPECT_EQ(kinematics->statusTip(), QString());
@@ -137,6 +139,18 @@ TEST_F(MenuViews, say_it_in_the_status_bar_while_the_item_is_pointed_at)
     settle();
     EXPECT_EQ(window().statusBar()->currentMessage(), QString());
     EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"Kinemati.out is ready."_s);
+}
+
+TEST_F(MenuViews, show_which_greyed_item_is_pointed_at)
+{
+    openFromBar(u"&Data"_s);
+    QMenu *data = menu(u"&Data"_s);
+    QAction *scale = action(data, u"&Scale/Refine data (Refila)"_s);
+    ASSERT_FALSE(scale->isEnabled());
+    const auto picture = [&] { return data->grab(data->actionGeometry(scale)).toImage(); };
+    const QImage unmarked = picture();
+    data->setActiveAction(scale);
+    EXPECT_NE(picture(), unmarked);
 }
 
 TEST_F(MenuViews, run_the_items)
@@ -187,6 +201,87 @@ TEST_F(MenuViews, ask_with_all_menus_closed_and_open_again_afterwards)
     EXPECT_FALSE(menuOpen);
     EXPECT_TRUE(menu(u"&Programs"_s)->isVisible());
     EXPECT_EQ(messages().size(), 1);
+}
+
+// Its menu opens behind the question before the desktop has made the window active again.
+class MenusBehindAQuestion : public MenuViews
+{
+protected:
+    void SetUp() override
+    {
+        MenuViews::SetUp();
+        machine.files.remove(u"C:\\DATA\\walk1.cfb"_s);
+        machine.files.remove(u"C:\\DATA\\run1.cfb"_s);
+        click(frm.cmdRefresh);
+        list(u"Data files"_s)->setFocus();
+        machine.dialogs.whileShown = [this](const platform::MessageBox &) {
+            box.show();
+            ASSERT_TRUE(QTest::qWaitForWindowActive(&box));
+        };
+        machine.dialogs.answers = {platform::No};
+        QTest::keyClick(&window(), Qt::Key_P, Qt::AltModifier);
+        ASSERT_TRUE(waitUntil([this] { return menu(u"&Programs"_s)->isVisible() && !messages().isEmpty(); }));
+        settle();
+    }
+
+    // The menu is closed, and the bar has the focus.
+    void leaveMenu()
+    {
+        QTest::keyClick(menu(u"&Programs"_s), Qt::Key_Escape);
+        box.hide();
+        window().activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+        ASSERT_TRUE(bar()->hasFocus());
+    }
+
+    QWidget box;
+};
+
+TEST_F(MenusBehindAQuestion, give_the_focus_back)
+{
+    leaveMenu();
+    QTest::keyClick(bar(), Qt::Key_Escape);
+    settle();
+    EXPECT_TRUE(list(u"Data files"_s)->hasFocus());
+}
+
+TEST_F(MenusBehindAQuestion, give_the_focus_back_when_Alt_leaves_the_bar)
+{
+    leaveMenu();
+    QTest::keyClick(bar(), Qt::Key_Alt);
+    settle();
+    EXPECT_TRUE(list(u"Data files"_s)->hasFocus());
+}
+
+TEST_F(MenusBehindAQuestion, give_the_focus_back_from_another_menu)
+{
+    leaveMenu();
+    QTest::keyClick(&window(), Qt::Key_M, Qt::AltModifier);
+    settle();
+    ASSERT_TRUE(menu(u"&Model"_s)->isVisible());
+    QTest::keyRelease(bar(), Qt::Key_Alt);
+    settle();
+    EXPECT_TRUE(bar()->hasFocus()) << "a menu is open";
+    QTest::keyClick(menu(u"&Model"_s), Qt::Key_Escape);
+    ASSERT_TRUE(bar()->hasFocus());
+    QTest::keyClick(bar(), Qt::Key_Escape);
+    settle();
+    EXPECT_TRUE(list(u"Data files"_s)->hasFocus());
+}
+
+TEST_F(MenusBehindAQuestion, leave_the_focus_where_it_has_gone_meanwhile)
+{
+    views::closeMenus();
+    box.hide();
+    window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+    QListView *models = list(u"Models (.CFB)"_s);
+    models->setFocus();
+    machine.dialogs.whileShown = nullptr;
+    openFromBar(u"&Animate"_s);
+    EXPECT_TRUE(waitUntil([this] { return messages().size() == 2; }));
+    settle();
+    EXPECT_EQ(window().focusWidget(), models);
 }
 
 TEST_F(MenuViews, that_share_a_letter_open_the_first_one_each_time)
