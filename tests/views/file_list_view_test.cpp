@@ -215,6 +215,57 @@ TEST_F(FileListViews, wait_with_the_click_for_the_rest_of_a_name_that_is_typed)
     QApplication::setKeyboardInputInterval(usual);
 }
 
+TEST_F(FileListViews, wait_with_the_click_for_a_name_that_is_typed_in_capitals)
+{
+    ASSERT_TRUE(frm.KeyPreview);
+    datafiles()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(window().windowHandle(), Qt::Key_C, Qt::ShiftModifier);
+    EXPECT_EQ(frm.filDatafiles.ListIndex.value(), 2);
+    EXPECT_EQ(datafileClicks, 0);
+    EXPECT_TRUE(waitUntil([this] { return datafileClicks == 1; }));
+}
+
+TEST_F(FileListViews, do_not_wait_for_a_name_after_an_arrow_key)
+{
+    const int usual = QApplication::keyboardInputInterval();
+    QApplication::setKeyboardInputInterval(1'000'000);
+    datafiles()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(datafiles(), Qt::Key_C);
+    QTest::keyClick(datafiles(), Qt::Key_Down);
+    EXPECT_TRUE(waitUntil([this] { return datafileClicks == 1; }));
+    EXPECT_EQ(kinovra.CurrentTrial, u"d"_s);
+    QApplication::setKeyboardInputInterval(usual);
+}
+
+TEST_F(FileListViews, click_before_a_key_of_the_window_acts)
+{
+    ASSERT_TRUE(frm.KeyPreview);
+    datafiles()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(datafiles(), Qt::Key_Down);
+    QTest::keyClick(window().windowHandle(), Qt::Key_R, Qt::ControlModifier);
+    EXPECT_EQ(datafileClicks, 1);
+    QTest::keyClick(datafiles(), Qt::Key_Down);
+    QTest::keyClick(window().windowHandle(), Qt::Key_F1);
+    EXPECT_EQ(datafileClicks, 2);
+}
+
+TEST_F(FileListViews, are_clicked_once_by_an_arrow_key_and_enter)
+{
+    datafiles()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(datafiles(), Qt::Key_Down);
+    QTest::keyClick(datafiles(), Qt::Key_Return);
+    EXPECT_EQ(datafileClicks, 1);
+    EXPECT_FALSE(isAboutToClick(datafiles()));
+}
+
+TEST_F(FileListViews, that_are_empty_are_not_clicked_by_enter)
+{
+    QListView *outputs = list(u"Output files"_s);
+    outputs->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(outputs, Qt::Key_Return);
+    EXPECT_EQ(outputClicks, 0);
+}
+
 TEST_F(FileListViews, choose_by_enter_what_is_framed)
 {
     EXPECT_EQ(frm.filDatafiles.ListIndex.value(), -1);
