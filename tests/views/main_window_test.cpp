@@ -7,6 +7,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QDragEnterEvent>
+#include <QElapsedTimer>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLabel>
@@ -57,15 +58,16 @@ protected:
     {
         QMimeData data;
         data.setUrls(addresses);
+        // With Shift a move is asked for.
         QDragEnterEvent entering(QPoint(300, 200), Qt::MoveAction | Qt::CopyAction, &data, Qt::LeftButton,
-                                 Qt::NoModifier);
+                                 Qt::ShiftModifier);
         entering.ignore();
         QApplication::sendEvent(&window(), &entering);
         if (!entering.isAccepted())
             return false;
         EXPECT_EQ(entering.dropAction(), Qt::CopyAction);
         QDropEvent dropping(QPoint(300, 200), Qt::MoveAction | Qt::CopyAction, &data, Qt::LeftButton,
-                            Qt::NoModifier);
+                            Qt::ShiftModifier);
         QApplication::sendEvent(&window(), &dropping);
         EXPECT_EQ(dropping.dropAction(), Qt::CopyAction) << "the file stays where it is";
         return dropping.isAccepted();
@@ -200,6 +202,26 @@ TEST_F(MainWindowView, shows_the_end_of_a_long_command_line_as_well)
     EXPECT_EQ(commandLine()->cursorPosition(), 0);
 }
 
+TEST_F(MainWindowView, shows_what_is_read_and_chosen_in_a_long_command_line)
+{
+    frm.lblCommand.Caption = u"c:\\"_s + QString(300, u'w') + u" WALK1"_s;
+    commandLine()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(commandLine(), Qt::Key_Home);
+    const QImage beginning = commandLine()->grab().toImage();
+    QTest::keyClick(commandLine(), Qt::Key_End);
+    EXPECT_NE(commandLine()->grab().toImage(), beginning);
+
+    QTest::keyClick(commandLine(), Qt::Key_A, Qt::ControlModifier);
+    QWidget other;
+    other.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    ASSERT_FALSE(commandLine()->hasFocus());
+    EXPECT_TRUE(commandLine()->hasSelectedText());
+    const QImage chosen = commandLine()->grab().toImage();
+    commandLine()->deselect();
+    EXPECT_NE(commandLine()->grab().toImage(), chosen);
+}
+
 TEST_F(MainWindowView, passes_by_an_empty_command_line)
 {
     frm.lblCommand.Caption = QString();
@@ -224,6 +246,8 @@ TEST_F(MainWindowView, shows_a_long_command_line_from_its_beginning)
     frm.lblCommand.Caption = u"c:\\kinovra\\kinemati.exe "_s + QString(300, u'w');
     EXPECT_EQ(commandLine()->cursorPosition(), 0);
     EXPECT_TRUE(toolTipAt(commandLine(), QPoint(5, 5)).contains(QString(300, u'w')));
+    frm.lblCommand.Caption = u"c:\\<b>\\kinemati.exe "_s + QString(300, u'w');
+    EXPECT_TRUE(toolTipAt(commandLine(), QPoint(5, 5)).contains(u"c:\\&lt;b&gt;\\"_s)) << "no mark-up";
 }
 
 TEST_F(MainWindowView, chooses_a_file_that_is_dropped)
@@ -253,13 +277,29 @@ TEST_F(MainWindowView, reads_again_what_has_changed_once_the_user_is_back)
     other.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
     addData({"jump1.dg", "jump1.km"});
+    QElapsedTimer away;
+    away.start();
     window().activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
-    EXPECT_EQ(frm.filDatafiles.ListCount(), 1) << "a click that is on its way aims at the old picture";
     EXPECT_TRUE(waitUntil([this] { return frm.filDatafiles.ListCount() == 2; }));
+    EXPECT_GE(away.elapsed(), 250) << "a click that is on its way aims at the old picture";
     EXPECT_EQ(frm.filBinaries.ListCount(), 1);
     EXPECT_EQ(frm.filDatafiles.FileName(), u"walk1.dg"_s);
     EXPECT_EQ(kinovra.CurrentTrial, u"walk1"_s);
+}
+
+TEST_F(MainWindowView, reads_once_what_has_changed_each_time_the_user_is_back)
+{
+    int returns = 0;
+    frm.Returned = [&returns] { ++returns; };
+    QTest::qWait(400);
+    EXPECT_EQ(returns, 0) << "nobody has been away";
+    QWidget other;
+    other.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    window().activateWindow();
+    EXPECT_TRUE(waitUntil([&returns] { return returns > 0; }));
+    QTest::qWait(400);
+    EXPECT_EQ(returns, 1);
 }
 
 TEST_F(MainWindowView, shows_text_as_text)
