@@ -62,6 +62,9 @@ TEST_F(DroppedFile, that_is_new_is_found)
     addFile(u"C:\\DATA\\new.dg"_s, "New\n");
     drop(u"C:\\DATA\\new.dg"_s);
     EXPECT_EQ(frm.lblTitle.Caption.value(), u"New "_s);
+    addFile(u"C:\\DATA\\new.cfb"_s, "New model\n");
+    drop(u"C:\\DATA\\new.cfb"_s);
+    EXPECT_EQ(frm.lblTitle.Caption.value(), u"New model "_s);
 }
 
 TEST_F(DroppedFile, of_another_directory_opens_that_first)
@@ -79,6 +82,15 @@ TEST_F(DroppedFile, of_another_drive_chooses_that_drive)
     drop(u"d:\\lift.dg"_s);
     EXPECT_EQ(frm.drvDrives.Drive.value(), u"d: [stick]"_s);
     EXPECT_EQ(frm.dirSelect.Path(), u"d:\\"_s);
+    EXPECT_EQ(kinovra.CurrentTrial, u"lift"_s);
+}
+
+TEST_F(DroppedFile, of_a_drive_that_has_come_since_the_start_chooses_that_drive)
+{
+    machine.files.addDrive(u"e: [new]"_s);
+    addFile(u"e:\\lift.dg"_s, "A lift\n");
+    drop(u"e:\\lift.dg"_s);
+    EXPECT_EQ(frm.drvDrives.Drive.value(), u"e: [new]"_s);
     EXPECT_EQ(kinovra.CurrentTrial, u"lift"_s);
 }
 
@@ -149,6 +161,14 @@ TEST_F(DroppedFile, is_not_taken_for_its_namesake_where_its_directory_cannot_bec
     drop(u"C:\\Trials\\walk1.dg"_s);
     machine.files.beforeCall = nullptr;
     EXPECT_EQ(messages(), QStringList{u"There was a problem finding a path.  Error was Permission denied"_s});
+    EXPECT_EQ(kinovra.CurrentTrial, QString());
+}
+
+TEST_F(DroppedFile, is_not_taken_for_its_namesake_where_its_directory_cannot_be_opened)
+{
+    machine.dialogs.answers = {platform::OK};
+    drop(u"C:\\Gone\\walk1.dg"_s);
+    EXPECT_EQ(messages(), QStringList{u"There was a problem finding a path.  Error was Path not found"_s});
     EXPECT_EQ(kinovra.CurrentTrial, QString());
 }
 
