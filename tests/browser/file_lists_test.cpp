@@ -217,6 +217,20 @@ TEST_F(FileLists, of_a_directory_that_is_gone_are_empty_and_the_status_bar_says_
     EXPECT_EQ(frm.StatusBar1.Panel1.value(), QString()) << "it can be read again";
 }
 
+TEST_F(FileLists, of_a_directory_that_fails_keep_the_capitals_of_the_reason)
+{
+    machine.files.forbid(u"C:\\DATA"_s, platform::ErrorNumber::DeviceError);
+    click(frm.cmdRefresh);
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"DATA cannot be read: device I/O error."_s);
+}
+
+TEST_F(FileLists, are_read_on_return_only_where_the_directory_has_changed)
+{
+    const int before = machine.files.directoriesReadAnew;
+    shell::dispatch(panel, frm.Returned);
+    EXPECT_EQ(machine.files.directoriesReadAnew, before);
+}
+
 TEST_F(FileLists, refreshed_leave_what_the_status_bar_says_of_something_else)
 {
     frm.StatusBar1.Panel1 = u"DATA2 cannot be read: path not found."_s;

@@ -299,6 +299,8 @@ TEST_F(DirectoryCommands, give_the_true_reason_in_the_status_bar)
     goTo(u"C:\\DATA\\Empty"_s);
     machine.files.forbid(u"C:\\DATA\\Empty"_s, ErrorNumber::PermissionDenied);
     EXPECT_EQ(refused(u"c:\\data\\empty"_s), u"Empty was not removed: permission denied."_s);
+    machine.files.forbid(u"C:\\DATA\\Empty"_s, ErrorNumber::DeviceError);
+    EXPECT_EQ(refused(u"c:\\data\\empty"_s), u"Empty was not removed: device I/O error."_s);
     machine.files.remove(u"C:\\DATA\\Empty"_s);
     EXPECT_EQ(refused(u"c:\\data\\empty"_s), u"Empty was not removed: path not found."_s);
     // Another one has come in its place: letter case tells them apart here.

@@ -497,6 +497,14 @@ TEST_F(ProgramEnds, with_a_listing_that_is_ready)
     EXPECT_EQ(said(), u"Kinemati.out is ready."_s);
 }
 
+TEST_F(ProgramEnds, with_an_error_though_its_listing_is_new)
+{
+    run();
+    addData({"Kinemati.out"});
+    end({Ending::Kind::Exited, 3});
+    EXPECT_EQ(said(), u"KINEMATI.EXE ended with error 3."_s);
+}
+
 TEST_F(ProgramEnds, without_a_word_of_a_listing_that_is_not_offered)
 {
     run(0);

@@ -25,6 +25,7 @@ TEST(FirstLine, ends_where_its_line_or_the_text_does)
     EXPECT_EQ(firstLineOf("Title\x1Amore"), u"Title"_s);
     EXPECT_EQ(firstLineOf("Title"), u"Title"_s);
     EXPECT_EQ(firstLineOf("\nmore"), QString());
+    EXPECT_EQ(firstLineOf("caf\xC3\nmore"), u"cafÃ"_s) << "a whole line has no half character";
     EXPECT_THROW(firstLineOf(""), RuntimeError);
     EXPECT_THROW(firstLineOf("\x1A"), RuntimeError);
 }

@@ -106,6 +106,15 @@ TEST_F(GreyedItems, name_the_data_before_what_comes_of_it)
     expectThatAllSayWhy("without data");
 }
 
+TEST_F(GreyedItems, of_a_model_name_the_data_to_copy)
+{
+    begin({"walk1.cfb", "run.cfb"});
+    click(frm.filModels, u"walk1.cfb"_s);
+    openAllMenus();
+    EXPECT_EQ(why(frm.mnuModel[1]), u"Needs WALK1.DG: choose or convert digitized data first"_s);
+    expectThatAllSayWhy("without data");
+}
+
 TEST_F(GreyedItems, ask_for_a_trial_where_there_is_none)
 {
     begin({"walk1.dg", "walk1.cfb", "run.cfb"});

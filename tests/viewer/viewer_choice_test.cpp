@@ -117,12 +117,12 @@ TEST_F(TextViewerMenu, keeps_the_viewer_but_moves_the_mark_when_cancelled)
 TEST_F(TextViewerMenu, takes_a_failing_dialog_for_a_cancelled_one)
 {
     click(frm.mnuTextViewer[0]);
-    machine.dialogs.whileChoosing = [] { throw RuntimeError(ErrorNumber::DeviceUnavailable); };
+    machine.dialogs.whileChoosing = [] { throw RuntimeError(ErrorNumber::DeviceError); };
     click(frm.mnuTextViewer[2]);
     EXPECT_EQ(kinovra.TextViewer, u"C:\\KINOVRA\\notepad.exe"_s);
     EXPECT_EQ(checked(), u"--x"_s);
     EXPECT_THAT(machine.dialogs.messages, IsEmpty());
-    EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"No text viewer was chosen: device unavailable."_s);
+    EXPECT_EQ(frm.StatusBar1.Panel1.value(), u"No text viewer was chosen: device I/O error."_s);
 }
 
 TEST_F(TextViewerMenu, of_another_index_only_tests_the_viewer)
