@@ -1,5 +1,6 @@
 // What is done to a process is done to one that was forked for it.
 
+#include "platform/host.h"
 #include "platform/linux/process_preparation.h"
 #include "platform/linux/process_starter.h"
 #include "scratch_directory.h"
@@ -98,4 +99,14 @@ TEST(ProcessPreparation, leaves_open_streams_as_they_are)
         endWith(isNull(STDIN_FILENO) && !isNull(STDOUT_FILENO) && !isNull(STDERR_FILENO));
     };
     EXPECT_EXIT(openMissing(), testing::ExitedWithCode(0), "");
+}
+
+TEST(ProcessPreparation, is_what_the_panel_begins_with)
+{
+    const auto begin = [] {
+        ::close(STDIN_FILENO);
+        platform::prepareProcess();
+        endWith(isNull(STDIN_FILENO) && outlivesBrokenPipe());
+    };
+    EXPECT_EXIT(begin(), testing::ExitedWithCode(0), "");
 }

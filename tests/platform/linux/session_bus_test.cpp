@@ -1,3 +1,4 @@
+#include "platform/host.h"
 #include "platform/linux/file_descriptor.h"
 #include "platform/linux/process_starter.h"
 #include "platform/linux/session_bus.h"
@@ -189,9 +190,29 @@ TEST_F(SessionBus, is_the_users_own_where_none_is_named)
 {
     const FakeBus bus(scratch.path("bus"), Bus::Silent);
     EXPECT_EQ(variableAfterwards(QByteArray()), QByteArray("disabled:"));
-    EXPECT_EQ(handedOn(), QByteArray());
+    EXPECT_TRUE(handedOn().isNull()) << "not even an empty one";
     EXPECT_EQ(variableAfterwards(""), QByteArray("disabled:"));
     EXPECT_EQ(handedOn(), QByteArray(""));
+    EXPECT_FALSE(handedOn().isNull());
+}
+
+TEST_F(SessionBus, of_the_user_may_be_in_a_directory_of_any_name)
+{
+    scratch.makeDirectory("odd, 100%41");
+    const support::ScopedVariable odd("XDG_RUNTIME_DIR", scratch.path("odd, 100%41"));
+    const FakeBus bus(scratch.path("odd, 100%41/bus"), Bus::Silent);
+    EXPECT_EQ(variableAfterwards(QByteArray()), QByteArray("disabled:"));
+}
+
+TEST_F(SessionBus, that_says_nothing_is_avoided_when_the_panel_begins)
+{
+    const FakeBus bus(scratch.path("silent"), Bus::Silent);
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=" + scratch.path("silent"));
+    const auto begin = [] {
+        platform::prepareProcess();
+        ::_exit(qgetenv("DBUS_SESSION_BUS_ADDRESS") == "disabled:" ? 0 : 1);
+    };
+    EXPECT_EXIT(begin(), testing::ExitedWithCode(0), "");
 }
 
 TEST_F(SessionBus, that_is_avoided_is_still_handed_on_to_programs)
