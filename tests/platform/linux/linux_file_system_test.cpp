@@ -334,6 +334,18 @@ TEST_F(LinuxFiles, take_the_process_along)
     EXPECT_EQ(std::filesystem::current_path().string(), scratch.path("sub").toStdString());
 }
 
+TEST_F(LinuxFiles, take_no_program_on_another_drive_for_a_directory)
+{
+    scratch.makeDirectory("prefix/dosdevices");
+    scratch.makeDirectory("prefix/drive_c");
+    scratch.makeFile("prefix/drive_c/program");
+    ::chmod(scratch.path("prefix/drive_c/program").constData(), 0755);
+    scratch.makeLink("prefix/dosdevices/c:", "../drive_c");
+    LinuxFileSystem wine(scratch.path("prefix"));
+    wine.changeDrive(u"z:"_s);
+    EXPECT_THROW(wine.changeDirectory(u"C:\\program"_s), platform::RuntimeError);
+}
+
 TEST_F(LinuxFiles, begin_at_the_root_where_the_start_directory_is_gone)
 {
     scratch.makeDirectory("doomed");

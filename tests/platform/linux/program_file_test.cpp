@@ -93,6 +93,7 @@ TEST(Interpreter, is_the_first_word_of_a_scripts_first_line)
     EXPECT_EQ(interpreter("#!/usr/bin/env python3 -x\nimport sys\n"), QByteArray("/usr/bin/env"));
     EXPECT_EQ(interpreter("#! \t/bin/sh\t-e\n"), QByteArray("/bin/sh"));
     EXPECT_EQ(interpreter("#!/bin/sh\r\n"), QByteArray("/bin/sh\r"));
+    EXPECT_EQ(interpreter(QByteArray("#!/bin/sh\0 -e\n", 15)), QByteArray("/bin/sh"));
     EXPECT_EQ(interpreter("#!perl\n"), QByteArray("perl"));
     EXPECT_EQ(interpreter("#!\n/bin/sh\n"), QByteArray());
     EXPECT_EQ(interpreter("#!"), QByteArray());
