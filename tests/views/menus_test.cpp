@@ -1,6 +1,6 @@
+#include "menu_fixture.h"
 #include "printing.h"
 #include "shell/menu_tree.h"
-#include "view_fixture.h"
 #include "views/menus.h"
 
 #include <QMenu>
@@ -13,27 +13,9 @@
 using namespace Qt::StringLiterals;
 using support::waitUntil;
 
-class MenuViews : public support::ViewFixture
+class MenuViews : public support::MenuFixture
 {
 protected:
-    void SetUp() override
-    {
-        addData({"walk1.dg", "walk1.cfb", "walk1.cn", "run1.cfb"});
-        show();
-    }
-
-    QMenuBar *bar() const { return window().menuBar(); }
-
-    QMenu *menu(const QString &caption) const
-    {
-        const auto menus = window().findChildren<QMenu *>();
-        for (QMenu *candidate : menus) {
-            if (candidate->title() == caption)
-                return candidate;
-        }
-        return nullptr;
-    }
-
     static QAction *action(const QMenu *menu, const QString &caption)
     {
         const auto actions = menu->actions();
@@ -42,12 +24,6 @@ protected:
                 return candidate;
         }
         return nullptr;
-    }
-
-    void openFromBar(const QString &caption)
-    {
-        bar()->setActiveAction(menu(caption)->menuAction());
-        settle();
     }
 
     // Every entry of a menu, a line each, as deep as it lies. A menu is filled when it is about to open.
@@ -203,87 +179,6 @@ TEST_F(MenuViews, ask_with_all_menus_closed_and_open_again_afterwards)
     EXPECT_EQ(messages().size(), 1);
 }
 
-// Its menu opens behind the question before the desktop has made the window active again.
-class MenusBehindAQuestion : public MenuViews
-{
-protected:
-    void SetUp() override
-    {
-        MenuViews::SetUp();
-        machine.files.remove(u"C:\\DATA\\walk1.cfb"_s);
-        machine.files.remove(u"C:\\DATA\\run1.cfb"_s);
-        click(frm.cmdRefresh);
-        list(u"Data files"_s)->setFocus();
-        machine.dialogs.whileShown = [this](const platform::MessageBox &) {
-            box.show();
-            ASSERT_TRUE(QTest::qWaitForWindowActive(&box));
-        };
-        machine.dialogs.answers = {platform::No};
-        QTest::keyClick(&window(), Qt::Key_P, Qt::AltModifier);
-        ASSERT_TRUE(waitUntil([this] { return menu(u"&Programs"_s)->isVisible() && !messages().isEmpty(); }));
-        settle();
-    }
-
-    // The menu is closed, and the bar has the focus.
-    void leaveMenu()
-    {
-        QTest::keyClick(menu(u"&Programs"_s), Qt::Key_Escape);
-        box.hide();
-        window().activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
-        ASSERT_TRUE(bar()->hasFocus());
-    }
-
-    QWidget box;
-};
-
-TEST_F(MenusBehindAQuestion, give_the_focus_back)
-{
-    leaveMenu();
-    QTest::keyClick(bar(), Qt::Key_Escape);
-    settle();
-    EXPECT_TRUE(list(u"Data files"_s)->hasFocus());
-}
-
-TEST_F(MenusBehindAQuestion, give_the_focus_back_when_Alt_leaves_the_bar)
-{
-    leaveMenu();
-    QTest::keyClick(bar(), Qt::Key_Alt);
-    settle();
-    EXPECT_TRUE(list(u"Data files"_s)->hasFocus());
-}
-
-TEST_F(MenusBehindAQuestion, give_the_focus_back_from_another_menu)
-{
-    leaveMenu();
-    QTest::keyClick(&window(), Qt::Key_M, Qt::AltModifier);
-    settle();
-    ASSERT_TRUE(menu(u"&Model"_s)->isVisible());
-    QTest::keyRelease(bar(), Qt::Key_Alt);
-    settle();
-    EXPECT_TRUE(bar()->hasFocus()) << "a menu is open";
-    QTest::keyClick(menu(u"&Model"_s), Qt::Key_Escape);
-    ASSERT_TRUE(bar()->hasFocus());
-    QTest::keyClick(bar(), Qt::Key_Escape);
-    settle();
-    EXPECT_TRUE(list(u"Data files"_s)->hasFocus());
-}
-
-TEST_F(MenusBehindAQuestion, leave_the_focus_where_it_has_gone_meanwhile)
-{
-    views::closeMenus();
-    box.hide();
-    window().activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
-    QListView *models = list(u"Models (.CFB)"_s);
-    models->setFocus();
-    machine.dialogs.whileShown = nullptr;
-    openFromBar(u"&Animate"_s);
-    EXPECT_TRUE(waitUntil([this] { return messages().size() == 2; }));
-    settle();
-    EXPECT_EQ(window().focusWidget(), models);
-}
-
 TEST_F(MenuViews, that_share_a_letter_open_the_first_one_each_time)
 {
     QListView *datafiles = list(u"Data files"_s);
@@ -313,89 +208,6 @@ TEST_F(MenuViews, that_share_a_letter_open_the_next_one_where_the_keyboard_is_on
     QTest::keyClick(bar(), Qt::Key_Escape);
     settle();
     EXPECT_TRUE(datafiles->hasFocus());
-}
-
-// As on a keyboard: Alt goes down first, and what has the keyboard then gets its release.
-static QWidget *keyboard()
-{
-    QWidget *popup = QApplication::activePopupWidget();
-    return popup ? popup : QApplication::focusWidget();
-}
-
-static void altAnd(Qt::Key key)
-{
-    QTest::keyPress(keyboard(), Qt::Key_Alt, Qt::AltModifier);
-    QTest::keyClick(keyboard(), key, Qt::AltModifier);
-    QTest::keyRelease(keyboard(), Qt::Key_Alt);
-    QTest::qWait(20);
-}
-
-TEST_F(MenuViews, give_the_focus_back_however_they_are_left)
-{
-    QListView *datafiles = list(u"Data files"_s);
-    const auto escape = [] {
-        QTest::keyClick(keyboard(), Qt::Key_Escape);
-        settle();
-    };
-    const auto alt = [] { QTest::keyClick(keyboard(), Qt::Key_Alt); };
-    const std::function<void()> ways[]{
-        [&] { altAnd(Qt::Key_F), QTest::keyClick(keyboard(), Qt::Key_N); },
-        [&] { altAnd(Qt::Key_F), escape(), altAnd(Qt::Key_F), QTest::keyClick(keyboard(), Qt::Key_N); },
-        [&] { altAnd(Qt::Key_F), escape(), altAnd(Qt::Key_D), escape(), escape(); },
-        [&] { altAnd(Qt::Key_F), escape(), alt(); },
-        [&] { alt(), alt(); },
-        [&] { alt(), escape(); },
-        [&] { alt(), altAnd(Qt::Key_F), escape(), escape(); },
-    };
-    for (size_t way = 0; way < std::size(ways); ++way) {
-        datafiles->setFocus();
-        ways[way]();
-        settle();
-        EXPECT_TRUE(datafiles->hasFocus()) << way;
-    }
-}
-
-TEST_F(MenuViews, give_the_focus_back_though_a_question_came_between)
-{
-    machine.files.remove(u"C:\\DATA\\walk1.cfb"_s);
-    machine.files.remove(u"C:\\DATA\\run1.cfb"_s);
-    click(frm.cmdRefresh);
-    QListView *datafiles = list(u"Data files"_s);
-    datafiles->setFocus();
-    machine.dialogs.answers = {platform::No};
-    altAnd(Qt::Key_P);
-    EXPECT_TRUE(waitUntil([this] { return messages().size() == 1; }));
-    settle();
-    ASSERT_TRUE(menu(u"&Programs"_s)->isVisible());
-    QTest::keyClick(keyboard(), Qt::Key_Escape);
-    QTest::keyClick(keyboard(), Qt::Key_Escape);
-    settle();
-    EXPECT_TRUE(datafiles->hasFocus());
-}
-
-TEST_F(MenuViews, give_the_focus_back_that_a_window_gives_them_again)
-{
-    QListView *datafiles = list(u"Data files"_s);
-    datafiles->setFocus();
-    bar()->setFocus(Qt::ActiveWindowFocusReason);
-    settle();
-    EXPECT_TRUE(datafiles->hasFocus());
-}
-
-TEST_F(MenuViews, give_the_focus_to_a_neighbour_where_the_command_has_hidden_whose_it_was)
-{
-    addFile(u"C:\\KINOVRA\\graphs\\STICK.GRA"_s);
-    QPushButton *create = button(u"Create Graph(s)"_s);
-    create->setFocus();
-    altAnd(Qt::Key_V);
-    QTest::keyClick(keyboard(), Qt::Key_Escape);
-    altAnd(Qt::Key_V);
-    QTest::keyClick(keyboard(), Qt::Key_G);
-    settle();
-    EXPECT_FALSE(create->isVisible());
-    ASSERT_NE(QApplication::focusWidget(), nullptr);
-    EXPECT_NE(QApplication::focusWidget(), bar());
-    EXPECT_TRUE(QApplication::focusWidget()->isVisible());
 }
 
 TEST_F(MenuViews, show_which_title_has_the_keyboard)
