@@ -68,10 +68,11 @@ void FileListView::showNames()
 {
     const QScopedValueRollback showing(showing_, true);
     const int scrolled = verticalScrollBar()->value();
-    const QString uppermost = scrolled > 0 ? model_.names().at(scrolled) : QString();
+    const bool isScrolled = scrolled > 0 && scrolled < model_.names().count();
+    const QString uppermost = isScrolled ? model_.names().at(scrolled) : QString();
     model_.show(list_.Names);
     executeDelayedItemsLayout();
-    const int row = uppermost.isEmpty() ? 0 : list_.Names.value().indexOf(uppermost);
+    const int row = isScrolled ? list_.Names.value().indexOf(uppermost) : 0;
     verticalScrollBar()->setValue(row >= 0 ? row : scrolled);
 }
 
