@@ -13,7 +13,7 @@ namespace {
 
 constexpr int Air = 4;
 
-// Some styles make the selection of a list that has not the focus pale themselves.
+// Some desktops' selection is pale already: paler still it would not be seen.
 bool isPale(const QColor &selection, const QColor &base)
 {
     constexpr int Least = 60;

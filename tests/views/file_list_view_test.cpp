@@ -498,7 +498,7 @@ TEST_F(FileListViews, show_what_is_selected_without_the_focus_too)
         return binaries->viewport()->grab().toImage().pixelColor(blank);
     };
     EXPECT_EQ(rowColour(QColor(0x30, 0x90, 0xF0)), QColor(0xBA, 0xDA, 0xFA));
-    // A style may have made it pale already.
+    // A desktop may have a pale one.
     EXPECT_EQ(rowColour(QColor(0xD8, 0xD8, 0xD8)), QColor(0xD8, 0xD8, 0xD8));
 }
 
